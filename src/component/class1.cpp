@@ -1,0 +1,44 @@
+#include "component/class1.h"
+
+#include "component/form_members.h"
+#include "component/job_files.h"
+#include "component/session.h"
+#include "component/start_up.h"
+#include "files/file_type.h"
+#include "files/job_paths.h"
+
+namespace pellam::component {
+
+Class1::Class1() : Class1(Session::shared()) {}
+Class1::Class1(Session& session) : session_(session) { Class_Initialize(); }
+
+void Class1::Class_Initialize() {}
+
+std::int16_t Class1::Product_Type(std::string& TempFileString) {
+  return files::CheckFileType(TempFileString, session_.image, session_.dialogs());
+}
+
+void Class1::ReadZPD_ImageFile(std::string& TempString) { OpenJobSequence(session_, TempString); }
+
+void Class1::Create_Pellam_Zpd(std::string& tempFileName) {
+  SaveJobSequence(session_, tempFileName, "Directory Not Found");
+}
+
+std::string Class1::Return_FileName_Path(std::string& TempFilterStr) { return ChooseFile(session_, TempFilterStr); }
+
+void Class1::Load_User_Form() { LoadUserForm(session_); }
+
+std::string Class1::Return_File_Name(std::string& TempFilePath, std::string& TempPath) {
+  return ReturnFileName(TempFilePath, TempPath);
+}
+
+std::string Class1::Return_Dir_Path(std::string& TempFilePath) {
+  return files::FolderCheck(TempFilePath, files::MissingFolder::Refuse, session_.dialogs());
+}
+
+void Class1::Initailize_Pellam_Variables_And_Form() { component::Initailize_Pellam_Variables_And_Form(session_); }
+void Class1::Unload_Pellam_Form() { UnloadUserForm(session_); }
+void Class1::Show_Hide_Pellam_Form(bool& TempShow) { ShowHideUserForm(session_, TempShow); }
+void Class1::New_KX_Job_Display_Board_SetUp() { NewJobDisplayBoardSetUp(session_); }
+
+}  // namespace pellam::component

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+
+namespace pellam::component {
+
+class Session;
+
+// The job files frame of the board page: save under a typed job path, list a folder's
+// images, open the one chosen.
+class FilesPage {
+ public:
+  explicit FilesPage(Session& session);
+
+  void Save();
+  void ListFiles();
+  void OpenChosen();
+
+ private:
+  std::string chosenPath() const;
+  Session& s_;
+  // The folder whose images the list shows: the typed folder may have changed since.
+  std::string listedFolder_;
+};
+
+}  // namespace pellam::component

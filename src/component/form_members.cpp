@@ -1,0 +1,45 @@
+#include "component/form_members.h"
+
+namespace pellam::component {
+
+void LoadUserForm(Session& s) {
+  s.form.load();
+  s.form.CommandButton17.setVisible(false);
+  s.form.Frame23.setVisible(false);
+  s.form.Frame28.setVisible(false);
+  s.form.show(s.hostAllowsModelessForms);
+}
+
+// The form forgets its controls' contents and its board values; the tables stay.
+void UnloadUserForm(Session& s) {
+  s.form.unload();
+  s.job.board = job::BoardSetup{};
+  s.channelEmulationPage.reset();
+  s.roomLinkPage.reset();
+  s.roomCombinePage.reset();
+}
+
+void ShowHideUserForm(Session& s, bool show) {
+  s.form.load();
+  s.form.Frame21.setVisible(false);
+  s.form.Frame23.setVisible(false);
+  s.form.setVisible(show);
+}
+
+void NewJobDisplayBoardSetUp(Session& s) {
+  s.form.load();
+  s.form.Page1.setVisible(true);
+  s.form.MultiPage1.setValue(0);
+}
+
+std::string ChooseFile(Session& s, const std::string& filter) {
+  constexpr int kFilterIndex = 3;
+  return s.dialogs().openFile({filter, kFilterIndex, true});
+}
+
+std::string ReturnFileName(const std::string& filePath, const std::string& name) {
+  if (filePath.empty() || name.empty()) return {};
+  return name.size() >= filePath.size() ? filePath : filePath.substr(filePath.size() - name.size());
+}
+
+}  // namespace pellam::component

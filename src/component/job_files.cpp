@@ -1,0 +1,193 @@
+#include "component/job_files.h"
+
+#include <algorithm>
+
+#include "component/start_up.h"
+#include "editors/room_combine/views.h"
+#include "files/room_combine_report.h"
+#include "files/job_paths.h"
+#include "files/open_job.h"
+#include "files/save_job.h"
+#include "image/clear.h"
+#include "image/decode.h"
+#include "image/pack.h"
+#include "job/runtime_error.h"
+#include "ui/trap.h"
+
+namespace pellam::component {
+
+namespace {
+
+void packSettings(Session& s) {
+  job::Job& job = s.job;
+  image::EepromImage& img = s.image;
+  ui::Dialogs& d = s.dialogs();
+  image::ClearImageOnly(img);
+  ui::trap(d, "Error module PackBoardSetup", [&] {
+    image::PackBoardSetup(img, {job.board.MasterSlaveMode, job.board.SlaveId,
+                                image::inputActionForImage(job.masterInputs, job.board.InputAction),
+                                job.board.HardwareType, job.board.OperatingMode});
+  });
+  image::PackSignature(img);
+  ui::trap(d, "Error module PackTimerOption", [&] { image::PackTimerOption(img, job.board.BoardOptions, job.board.RefreshRate); });
+  ui::trap(d, "Error M7Trap4", [&] { image::PackInputNumbering(img, job.board.BoardOptions, job.inputNumbering); });
+  ui::trap(d, "Error M11Trap5", [&] { image::PackRemoteCommands(img, job.remoteCommands); });
+  ui::trap(d, "Error M13Trap4", [&] {
+    image::PackMasterInputs(img, job.masterInputs);
+    image::PackOffsetFlag(img, job.masterInputs, job.board.InputAction);
+  });
+}
+
+// Index of a refresh period in the refresh-rate list, -1 when the list has no such item.
+int refreshRateIndex(int seconds) {
+  if (seconds >= 1 && seconds <= 180) return seconds;
+  if (seconds % 60 == 0 && seconds / 60 >= 1 && seconds / 60 <= 20) return 180 + seconds / 60;
+  return -1;
+}
+
+void showIndex(ui::ListControl& list, int index) { list.setListIndex(index < list.count() ? index : -1); }
+
+void displayBoard(Session& s, const image::DecodedBoard& b) {
+  ui::UserForm1& f = s.form;
+  s.job.board.InputScan = static_cast<std::int16_t>(b.inputScan);
+  s.job.board.FurtherOption = static_cast<std::int16_t>(b.furtherOption);
+  job::BoardSetup& board = s.job.board;
+  showIndex(f.ComboBox48, b.hardwareType);
+  showIndex(f.ComboBox1, b.operatingMode);
+  showIndex(f.ComboBox2, b.masterSlave);
+  if (b.masterSlave != job::kMaster) showIndex(f.ComboBox25, b.slaveId);
+  showIndex(f.ComboBox6, b.inputAction);
+  showIndex(f.ComboBox55, refreshRateIndex(image::timerSeconds(b.timer)));
+  f.OptionButton4.setValue(image::optionBitZero(b.optionFlags));
+  f.OptionButton6.setValue(!image::optionBitZero(b.optionFlags));
+  const int bits = b.optionFlags & 6;
+  f.OptionButton7.setValue(bits == 2);
+  f.OptionButton8.setValue(bits == 4);
+  f.OptionButton9.setValue(bits == 6);
+  f.OptionButton1.setValue(b.inputScan == 1);
+  f.OptionButton2.setValue(b.inputScan != 1);
+
+  // The lists' handlers have run; the decoded values stand, even those a list cannot show.
+  board.HardwareType = static_cast<std::int16_t>(b.hardwareType);
+  board.OperatingMode = static_cast<std::int16_t>(b.operatingMode);
+  board.MasterSlaveMode = static_cast<std::int16_t>(b.masterSlave);
+  board.SlaveId = static_cast<std::int16_t>(b.slaveId);
+  board.InputAction = static_cast<std::int16_t>(b.inputAction);
+  board.BoardOptions = static_cast<std::int16_t>(b.optionFlags);
+  board.RefreshRate = b.timer;
+  s.boardPage.refreshDependentControls();
+}
+
+void decodeRegions(Session& s, int mode) {
+  job::Job& job = s.job;
+  const job::InputNumberTable* numbering = image::optionBitZero(job.board.BoardOptions) ? &job.inputNumbering : nullptr;
+  const image::EepromImage& img = s.image;
+  ui::Dialogs& d = s.dialogs();
+  // Remote commands and master inputs are packed in every mode, so every mode reads them back.
+  ui::trap(d, "Error M11Trap3", [&] { image::DecodeRemoteCommands(img, job.remoteCommands); });
+  ui::trap(d, "Error M13Trap2", [&] { image::DecodeMasterInputs(img, job.masterInputs); });
+  switch (mode) {
+    case 1: image::DecodeChannelEmulation(img, job.channelEmulation); break;
+    case 2:
+      image::DecodeRoomLink(img, job.roomLink);
+      s.roomLinkPage.ListDecoded(mode);
+      break;
+    case 3:
+      image::DecodeRoomLink(img, job.roomLink);
+      s.roomLinkPage.ListDecoded(mode);
+      image::DecodeRoomCombine(img, job.roomCombine);
+      s.roomCombinePage.ListDecoded();
+      image::DecodeStationsFormA(img, job.stationLink, numbering);
+      break;
+    case 4: image::DecodePresetEmulation(img, job.presetEmulation); break;
+    case 5:
+      image::DecodeRoomLink(img, job.roomLink);
+      s.roomLinkPage.ListDecoded(mode);
+      image::DecodeStationsFormB(img, job.stationLink, job.stationPersonality, numbering);
+      break;
+    default: break;
+  }
+}
+
+// The report lists the room-combine lines as the all view shows them, so that view is rebuilt
+// first, then the rooms and groups in use.
+std::string roomCombineReport(Session& s) {
+  ui::UserForm1& f = s.form;
+  editors::room_combine::RebuildAllView(s.job.roomCombine, f.ListBox1);
+  ui::trap(s.dialogs(), "Error M15trap1", [&] { files::RebuildRoomsAndGroupsInUse(s.job.roomCombine, s.roomsAndGroupsInUse); });
+  std::string report;
+  ui::trap(s.dialogs(), "Error M15trap2", [&] {
+    report = files::RoomCombineReport(s.job.roomCombine, s.roomsAndGroupsInUse,
+                                      {f.ListBox1.items(), f.ListBox2.items(), f.ListBox3.items()}, s.clock().now());
+  });
+  return report;
+}
+
+}  // namespace
+
+std::string SaveJobSequence(Session& s, const std::string& jobPath, const std::string& noFolder) {
+  packSettings(s);
+  if (files::FolderCheck(jobPath, files::MissingFolder::OfferToCreate, s.dialogs()).empty()) {
+    s.dialogs().msgBox(noFolder, ui::Buttons::OK);
+    return {};
+  }
+  const std::string zpd = files::SaveJob(jobPath, s.inputBank, s.job, s.image, s.dialogs(), [&] { return roomCombineReport(s); });
+  if (!zpd.empty()) {
+    s.currentJobFile = zpd;
+    s.form.Label144.setCaption(zpd);
+    if (s.job.board.OperatingMode == 3 && !s.shell().openInViewer(files::reportPath(jobPath))) {
+      s.dialogs().msgBox("Can't Start Notepad", ui::Buttons::OK);
+    }
+  }
+  ui::trap(s.dialogs(), "Error module LoadNetIds", [&] { fillNetIdLists(s.form, NetIdChoice::Keep); });
+  return zpd;
+}
+
+void DecodeImage(Session& s) {
+  ui::Dialogs& d = s.dialogs();
+  // Reading the board bytes cannot fail: every offset lies inside the image.
+  const image::DecodedBoard board = image::DecodeBoardSetup(s.image);
+  ui::trap(d, "Error M2TRap10", [&] {
+    s.job.masterInputs.Mode = static_cast<std::int16_t>(board.masterInputMode);
+    if (board.masterInputMode == 1) s.job.masterInputs.Companion = 2;
+  });
+  ui::trap(d, "Error M2Trap20", [&] { displayBoard(s, board); });
+  ui::trap(d, "Error M7Trap3", [&] {
+    if (image::optionBitZero(board.optionFlags)) {
+      image::DecodeInputNumbering(s.image, s.job.inputNumbering);
+    } else {
+      job::ClearInputNumbering(s.job.inputNumbering);
+    }
+  });
+  ui::trap(d, "Error M2Trap30", [&] {
+    s.navigation.showModePage();
+    decodeRegions(s, board.operatingMode);
+  });
+}
+
+bool OpenJobSequence(Session& s, const std::string& path) {
+  s.form.load();
+  auto file = files::OpenImageFile(path);
+  if (!file) {
+    s.dialogs().msgBox("Cannot Open File: " + path, ui::Buttons::OK);
+    return false;
+  }
+  // Cleared and read as one: the file's bytes, then 0 up to 33998; byte 0 stays when the file
+  // is empty, and 33999..34001 always.
+  ui::trap(s.dialogs(), "Error module ClearEEpromImage", [&] {
+    image::ClearRoomTables(s.job);
+    long read = files::ReadImageBytes(*file, s.image.bytes().first(image::map::kZpdSize));
+    if (read < 0) {
+      s.dialogs().msgBox("Cannot Read File: " + path, ui::Buttons::OK);
+      read = 0;
+    }
+    s.image.fill(std::max<int>(image::map::kClearFirst, static_cast<int>(read)), image::map::kClearLast, 0);
+  });
+  DecodeImage(s);
+  s.currentJobFile = path;
+  s.companionReport.clear();
+  if (s.job.board.OperatingMode == 3) s.companionReport = files::ReadTextFile(files::companionReportPath(path)).value_or("");
+  return true;
+}
+
+}  // namespace pellam::component

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <iosfwd>
+
+#include "ui/dialogs.h"
+
+namespace pellam::component {
+
+// What a session uses when no face has given it dialogs: messages go to a stream and every
+// question gets its careful answer (No, Cancel); the file dialog is cancelled.
+class UnattendedDialogs final : public ui::Dialogs {
+ public:
+  explicit UnattendedDialogs(std::ostream& log) : log_(log) {}
+  ui::Answer msgBox(const std::string& text, ui::Buttons buttons) override;
+  std::string openFile(const ui::FileDialogRequest& request) override;
+
+ private:
+  std::ostream& log_;
+};
+
+class NoViewer final : public ui::Shell {
+ public:
+  bool openInViewer(const std::string&) override { return false; }
+};
+
+class SystemClock final : public ui::Clock {
+ public:
+  ui::DateTime now() override;
+};
+
+}  // namespace pellam::component

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <string>
+
+#include "component/files_page.h"
+#include "component/page_navigation.h"
+#include "editors/channel_emulation/channel_emulation_page.h"
+#include "editors/naming/naming_page.h"
+#include "editors/room_combine/room_combine_page.h"
+#include "editors/room_link/room_link_page.h"
+#include "files/room_combine_report.h"
+#include "image/eeprom_image.h"
+#include "job/job.h"
+#include "setup/board_setup_page.h"
+#include "ui/dialogs.h"
+#include "ui/user_form.h"
+
+namespace pellam::component {
+
+// Forwards to the dialogs, viewer and clock a face has given the session, so that presenters
+// keep one reference while the face may change.
+class PlatformProxy final : public ui::Dialogs, public ui::Shell, public ui::Clock {
+ public:
+  PlatformProxy(ui::Dialogs& dialogs, ui::Shell& shell, ui::Clock& clock)
+      : dialogs_(&dialogs), shell_(&shell), clock_(&clock) {}
+  void set(ui::Dialogs& dialogs, ui::Shell& shell, ui::Clock& clock) {
+    dialogs_ = &dialogs;
+    shell_ = &shell;
+    clock_ = &clock;
+  }
+  ui::Answer msgBox(const std::string& text, ui::Buttons buttons) override { return dialogs_->msgBox(text, buttons); }
+  std::string openFile(const ui::FileDialogRequest& request) override { return dialogs_->openFile(request); }
+  bool openInViewer(const std::string& path) override { return shell_->openInViewer(path); }
+  ui::DateTime now() override { return clock_->now(); }
+
+ private:
+  ui::Dialogs* dialogs_;
+  ui::Shell* shell_;
+  ui::Clock* clock_;
+};
+
+// Everything the component keeps for the life of the process: the job, the image, the form
+// and its presenters. Class1 holds none of it.
+class Session {
+ public:
+  Session(ui::Dialogs& dialogs, ui::Shell& shell, ui::Clock& clock);
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+
+  // The one session that every Class1 of this process talks to.
+  static Session& shared();
+
+  void setPlatform(ui::Dialogs& dialogs, ui::Shell& shell, ui::Clock& clock) { platform_.set(dialogs, shell, clock); }
+  ui::Dialogs& dialogs() { return platform_; }
+  ui::Shell& shell() { return platform_; }
+  ui::Clock& clock() { return platform_; }
+
+  // Whether the host lets a component show a modeless form.
+  bool hostAllowsModelessForms = true;
+  // The .zpd last saved or opened: the file an upload sends.
+  std::string currentJobFile;
+  // The room-combine report read beside a mode-3 job when it was opened.
+  std::string companionReport;
+  // Input-bank setting of the save: any value but 2 writes the second bank's text too.
+  int inputBank = 0;
+  files::RoomsAndGroupsInUse roomsAndGroupsInUse;
+
+  job::Job job;
+  image::EepromImage image;
+  ui::UserForm1 form;
+
+ private:
+  PlatformProxy platform_;
+
+ public:
+  PageNavigation navigation;
+  setup::BoardSetupPage boardPage;
+  editors::channel_emulation::ChannelEmulationPage channelEmulationPage;
+  editors::room_link::RoomLinkPage roomLinkPage;
+  editors::room_combine::RoomCombinePage roomCombinePage;
+  editors::naming::NamingPage namingPage;
+  FilesPage filesPage;
+};
+
+}  // namespace pellam::component

@@ -1,0 +1,36 @@
+#include "editors/preset_emulation/list_lines.h"
+
+namespace pellam::editors::preset_emulation {
+
+std::string_view stationKindName(int kind) {
+  switch (kind) {
+    case 7: return "T6600 Entry";
+    case 9: return "T6600 LCD";
+    case 10: return "T3100 LCD";
+    case 11: return "Contact Closure";
+    case 12: return "T3100 Entry";
+    default: return "";
+  }
+}
+
+std::string rebuiltActionText(const job::PresetRecord& r, const std::string& previous) {
+  const std::string number = std::to_string(r.ActionNumber);
+  switch (r.StationKind) {
+    case 7:
+    case 9: return "  Button :" + number;
+    case 10:
+      if (r.ActionNumber == 17) return "  Max On";
+      if (r.ActionNumber == 18) return "  Max Off";
+      return "  Preset :" + number;
+    case 11:
+    case 12: return "  Preset :" + number;
+    default: return previous;
+  }
+}
+
+std::string entryLine(std::string_view kindName, const job::PresetRecord& r, const std::string& actionText) {
+  return std::string(kindName) + "  NetId: " + std::to_string(r.NetIdPlusOne) + "  Personality  " +
+         std::to_string(r.Personality) + actionText;
+}
+
+}  // namespace pellam::editors::preset_emulation

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "image/eeprom_image.h"
+#include "ui/dialogs.h"
+
+namespace pellam::files {
+
+// Reads the product-type byte of an image file into the image and tells whether to open the
+// file: 1 go on, -1 stop. A file of another kind is opened only when the person says so.
+std::int16_t CheckFileType(const std::string& path, image::EepromImage& image, ui::Dialogs& dialogs);
+
+}  // namespace pellam::files

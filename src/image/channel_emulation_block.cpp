@@ -1,0 +1,123 @@
+#include "image/channel_emulation_block.h"
+
+#include <algorithm>
+
+#include "job/runtime_error.h"
+
+namespace pellam::image {
+
+namespace {
+
+constexpr int kRangeEnd = 0x80;
+constexpr int kChannelHighMask = 0x0F;
+
+// One pair per single channel, two per range of consecutive channels.
+int pairsOf(const ChannelGroup& group) {
+  int pairs = 0;
+  for (std::size_t i = 0; i < group.channels.size();) {
+    std::size_t j = i;
+    while (j + 1 < group.channels.size() && group.channels[j + 1] == group.channels[j] + 1) ++j;
+    pairs += j > i ? 2 : 1;
+    i = j + 1;
+  }
+  return pairs;
+}
+
+int liveChannels(const job::ChannelEmulationRecord& record) {
+  int live = 0;
+  for (int s = 0; s < job::kChannelSlotsListed; ++s) live += record.Channels[static_cast<std::size_t>(s)] > 0;
+  return live;
+}
+
+}  // namespace
+
+std::vector<ChannelGroup> channelGroups(const job::ChannelEmulationRecord& record) {
+  std::vector<ChannelGroup> groups;
+  for (std::size_t s = 0; s < static_cast<std::size_t>(job::kChannelSlotsListed); ++s) {
+    if (record.Channels[s] <= 0) continue;
+    if (groups.empty() || groups.back().level != record.Levels[s]) groups.push_back({record.Levels[s], {}});
+    groups.back().channels.push_back(record.Channels[s]);
+  }
+  return groups;
+}
+
+int channelGroupBytes(const job::ChannelEmulationRecord& record) {
+  int bytes = 0;
+  for (const ChannelGroup& group : channelGroups(record)) bytes += 2 + 2 * pairsOf(group);
+  return bytes;
+}
+
+bool channelsFit(const job::ChannelEmulationRecord& actionOne, const job::ChannelEmulationRecord& actionTwo) {
+  constexpr int kRoom = map::kBlockSize - kChannelBlockGroupsStart;
+  return liveChannels(actionOne) <= kChannelsPerInput && channelGroupBytes(actionOne) <= kRoom &&
+         liveChannels(actionTwo) <= kChannelsPerInput && channelGroupBytes(actionTwo) <= kRoom;
+}
+
+void PackChannelBlock(EepromImage& image, int base, const job::ChannelEmulationRecord& record) {
+  // The whole block is built and checked first, so that a record that cannot be stored
+  // leaves the image as it was.
+  std::vector<std::uint8_t> block{toByte(record.FadeRate), 0, toByte(liveChannels(record))};
+  auto putPair = [&](int channel, bool rangeEnd) {
+    if (channel > kChannelLast) throw job::RuntimeError(job::kOverflow);
+    block.push_back(static_cast<std::uint8_t>((channel >> 8) | (rangeEnd ? kRangeEnd : 0)));
+    block.push_back(static_cast<std::uint8_t>(channel & 0xFF));
+  };
+  for (const ChannelGroup& group : channelGroups(record)) {
+    block.push_back(toByte(pairsOf(group)));
+    block.push_back(toByte(group.level));
+    const auto& c = group.channels;
+    for (std::size_t i = 0; i < c.size();) {
+      std::size_t j = i;
+      while (j + 1 < c.size() && c[j + 1] == c[j] + 1) ++j;
+      putPair(c[i], false);
+      if (j > i) putPair(c[j], true);
+      i = j + 1;
+    }
+  }
+  if (liveChannels(record) > kChannelsPerInput || block.size() > static_cast<std::size_t>(map::kBlockSize)) {
+    throw job::RuntimeError(job::kSubscriptOutOfRange);
+  }
+  if (block.size() < static_cast<std::size_t>(map::kBlockSize)) block.push_back(0);
+  for (std::size_t i = 0; i < block.size(); ++i) image.put(base + static_cast<int>(i), block[i]);
+}
+
+void DecodeChannelBlock(const EepromImage& image, int base, job::ChannelEmulationRecord& record) {
+  record.FadeRate = image.at(base);
+  record.ChannelCount = 0;
+  // Slots past the decoded channels are emptied once, at the end.
+  auto emptyFrom = [&](int first) {
+    std::fill(record.Channels.begin() + first, record.Channels.end(), 0);
+    std::fill(record.Levels.begin() + first, record.Levels.end(), 0);
+  };
+  if (image.at(base + 2) == 0) return emptyFrom(0);
+
+  const int end = base + map::kBlockSize;
+  int slot = 0;
+  auto take = [&](int channel, int level) {
+    if (channel < 1 || channel > kChannelLast || slot >= kChannelsPerInput) return;
+    record.Channels[static_cast<std::size_t>(slot)] = static_cast<std::int16_t>(channel);
+    record.Levels[static_cast<std::size_t>(slot)] = static_cast<std::int16_t>(level);
+    ++slot;
+  };
+  int at = base + kChannelBlockGroupsStart;
+  while (at + 1 < end && image.at(at) != 0) {
+    const int pairs = image.at(at);
+    const int level = image.at(at + 1);
+    at += 2;
+    int previous = 0;
+    for (int p = 0; p < pairs && at + 1 < end; ++p, at += 2) {
+      const int high = image.at(at);
+      const int channel = ((high & kChannelHighMask) << 8) | image.at(at + 1);
+      if ((high & kRangeEnd) != 0 && previous > 0) {
+        for (int c = previous + 1; c <= channel && slot < kChannelsPerInput; ++c) take(c, level);
+      } else {
+        take(channel, level);
+      }
+      previous = channel;
+    }
+  }
+  record.ChannelCount = static_cast<std::int16_t>(slot);
+  emptyFrom(slot);
+}
+
+}  // namespace pellam::image

@@ -1,0 +1,172 @@
+#include "ui/controls.h"
+
+#include <stdexcept>
+
+namespace pellam::ui {
+
+std::string_view kindName(Kind kind) {
+  switch (kind) {
+    case Kind::MultiPage: return "MultiPage";
+    case Kind::Page: return "Page";
+    case Kind::Frame: return "Frame";
+    case Kind::Label: return "Label";
+    case Kind::TextBox: return "TextBox";
+    case Kind::ComboBox: return "ComboBox";
+    case Kind::ListBox: return "ListBox";
+    case Kind::OptionButton: return "OptionButton";
+    case Kind::CommandButton: return "CommandButton";
+  }
+  return "Control";
+}
+
+Control::Control(const ControlSpec& spec, ChangeSink& sink) : spec_(&spec), sink_(&sink), visible_(spec.visible) {}
+
+void Control::setVisible(bool visible) {
+  if (visible_ == visible) return;
+  visible_ = visible;
+  notify();
+}
+
+void Control::setEnabled(bool enabled) {
+  if (enabled_ == enabled) return;
+  enabled_ = enabled;
+  notify();
+}
+
+void Control::reset() {
+  visible_ = spec_->visible;
+  enabled_ = true;
+  notify();
+}
+
+CaptionedControl::CaptionedControl(const ControlSpec& spec, ChangeSink& sink)
+    : Control(spec, sink), caption_(spec.caption) {}
+
+void CaptionedControl::setCaption(std::string caption) {
+  if (caption_ == caption) return;
+  caption_ = std::move(caption);
+  notify();
+}
+
+void CaptionedControl::reset() {
+  caption_ = std::string(spec().caption);
+  Control::reset();
+}
+
+void CommandButton::click() {
+  if (onClick) onClick();
+}
+
+void OptionButton::setValue(bool value) {
+  if (value_ == value) return;
+  value_ = value;
+  notify();
+}
+
+void OptionButton::choose() {
+  for (OptionButton* other : group_) {
+    if (other != this) other->setValue(false);
+  }
+  setValue(true);
+  if (onClick) onClick();
+}
+
+void OptionButton::reset() {
+  value_ = false;
+  CaptionedControl::reset();
+}
+
+void TextBox::setText(std::string text) {
+  if (text_ == text) return;
+  text_ = std::move(text);
+  notify();
+  if (onChange) onChange();
+}
+
+void TextBox::reset() {
+  text_.clear();
+  Control::reset();
+}
+
+const std::string& ListControl::item(int index) const {
+  if (index < 0 || index >= count()) throw std::out_of_range("Invalid property value");
+  return items_[static_cast<std::size_t>(index)];
+}
+
+std::string ListControl::text() const { return listIndex_ >= 0 ? items_[static_cast<std::size_t>(listIndex_)] : ""; }
+
+void ListControl::clear() {
+  items_.clear();
+  listIndex_ = -1;
+  notify();
+}
+
+void ListControl::addItem(std::string item) {
+  items_.push_back(std::move(item));
+  notify();
+}
+
+void ListControl::setItems(std::vector<std::string> items) {
+  items_ = std::move(items);
+  listIndex_ = -1;
+  notify();
+}
+
+void ListControl::refill(std::vector<std::string> items) {
+  items_ = std::move(items);
+  if (listIndex_ >= count()) listIndex_ = -1;
+  notify();
+}
+
+void ListControl::checkIndex(int index) const {
+  if (index < -1 || index >= count()) throw std::out_of_range("Invalid property value");
+}
+
+void ListControl::setListIndex(int index) {
+  checkIndex(index);
+  if (listIndex_ == index) return;
+  listIndex_ = index;
+  notify();
+  if (onClick) onClick();
+}
+
+void ListControl::select(int index) {
+  checkIndex(index);
+  if (listIndex_ != index) {
+    listIndex_ = index;
+    notify();
+  }
+  if (onClick) onClick();
+}
+
+void ListControl::reset() {
+  items_.clear();
+  listIndex_ = -1;
+  Control::reset();
+}
+
+void MultiPage::setValue(int pageIndex) {
+  if (pageIndex < 0 || pageIndex >= static_cast<int>(pages_.size())) throw std::out_of_range("Invalid property value");
+  if (!pages_[static_cast<std::size_t>(pageIndex)]->visible()) throw std::out_of_range("Page is not visible");
+  if (value_ == pageIndex) return;
+  value_ = pageIndex;
+  notify();
+  if (onChange) onChange();
+}
+
+void MultiPage::pageVisibilityChanged(const Page& page) {
+  if (page.visible() || pages_.empty() || pages_[static_cast<std::size_t>(value_)] != &page) return;
+  for (std::size_t i = 0; i < pages_.size(); ++i) {
+    if (pages_[i]->visible()) {
+      setValue(static_cast<int>(i));
+      return;
+    }
+  }
+}
+
+void MultiPage::reset() {
+  value_ = 0;
+  Control::reset();
+}
+
+}  // namespace pellam::ui

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+
+namespace pellam::ui {
+
+enum class Buttons { OK, OKCancel, YesNo };
+enum class Answer { OK, Cancel, Yes, No };
+
+struct FileDialogRequest {
+  std::string filter;      // "Image Files (*.zpd)|*.zpd|..."
+  int filterIndex = 1;     // 1-based, as the common dialog counts
+  bool hideReadOnly = false;
+};
+
+// Everything a person is asked or told.
+class Dialogs {
+ public:
+  virtual ~Dialogs() = default;
+  virtual Answer msgBox(const std::string& text, Buttons buttons) = 0;
+  // The chosen full path, or an empty string when the person cancels.
+  virtual std::string openFile(const FileDialogRequest& request) = 0;
+};
+
+// Opens a file in the desktop's viewer; false when that could not be started.
+class Shell {
+ public:
+  virtual ~Shell() = default;
+  virtual bool openInViewer(const std::string& path) = 0;
+};
+
+struct DateTime {
+  int year, month, day, hour, minute, second;
+};
+
+class Clock {
+ public:
+  virtual ~Clock() = default;
+  virtual DateTime now() = 0;
+};
+
+}  // namespace pellam::ui

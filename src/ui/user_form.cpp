@@ -1,0 +1,93 @@
+#include "ui/user_form.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+
+namespace pellam::ui {
+
+namespace {
+
+constexpr std::array kTable = {
+#define PELLAM_TABLE_ROW(name, kind, parent, left, top, width, height, caption, visible) \
+  ControlSpec{#name, Kind::kind, parent, left, top, width, height, caption, visible},
+    PELLAM_USERFORM1_CONTROLS(PELLAM_TABLE_ROW)
+#undef PELLAM_TABLE_ROW
+};
+
+enum class Row : std::size_t {
+#define PELLAM_ROW_ID(name, ...) name,
+  PELLAM_USERFORM1_CONTROLS(PELLAM_ROW_ID)
+#undef PELLAM_ROW_ID
+};
+
+bool byNameLess(const Control* a, const Control* b) { return a->name() < b->name(); }
+
+}  // namespace
+
+std::span<const ControlSpec> userForm1Table() { return kTable; }
+
+UserForm1::UserForm1()
+    :
+#define PELLAM_INIT_CONTROL(name, ...) name(kTable[static_cast<std::size_t>(Row::name)], *this),
+      PELLAM_USERFORM1_CONTROLS(PELLAM_INIT_CONTROL)
+#undef PELLAM_INIT_CONTROL
+          controls_{
+#define PELLAM_LIST_CONTROL(name, ...) &name,
+              PELLAM_USERFORM1_CONTROLS(PELLAM_LIST_CONTROL)
+#undef PELLAM_LIST_CONTROL
+          } {
+  byName_ = controls_;
+  std::sort(byName_.begin(), byName_.end(), byNameLess);
+
+  // Option buttons that share a frame exclude one another; the pages belong to MultiPage1.
+  std::map<std::string_view, std::vector<OptionButton*>> groups;
+  std::vector<Page*> pages;
+  for (Control* c : controls_) {
+    if (c->kind() == Kind::OptionButton) groups[c->spec().parent].push_back(static_cast<OptionButton*>(c));
+    if (c->kind() == Kind::Page) pages.push_back(static_cast<Page*>(c));
+  }
+  for (auto& [parent, group] : groups) {
+    for (OptionButton* b : group) b->setGroup(group);
+  }
+  MultiPage1.setPages(std::move(pages));
+}
+
+Control* UserForm1::find(std::string_view name) const {
+  auto it = std::lower_bound(byName_.begin(), byName_.end(), name,
+                             [](const Control* c, std::string_view n) { return c->name() < n; });
+  return it != byName_.end() && (*it)->name() == name ? *it : nullptr;
+}
+
+void UserForm1::load() {
+  if (loaded_) return;
+  loaded_ = true;
+  if (observer_) observer_(nullptr);
+}
+
+void UserForm1::unload() {
+  for (Control* c : controls_) c->reset();
+  loaded_ = false;
+  visible_ = false;
+  if (observer_) observer_(nullptr);
+}
+
+void UserForm1::show(bool modeless) {
+  load();
+  modal_ = !modeless;
+  setVisible(true);
+}
+
+void UserForm1::setVisible(bool visible) {
+  load();
+  if (visible_ == visible) return;
+  visible_ = visible;
+  if (observer_) observer_(nullptr);
+}
+
+void UserForm1::controlChanged(const Control& control) {
+  if (control.kind() == Kind::Page) MultiPage1.pageVisibilityChanged(static_cast<const Page&>(control));
+  if (observer_) observer_(&control);
+}
+
+}  // namespace pellam::ui

@@ -1,0 +1,110 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "image/memory_map.h"
+#include "component/platform.h"
+#include "support/desk.h"
+
+namespace pellam::component {
+namespace {
+
+using testing::Desk;
+using testing::TempFolder;
+using Lines = std::vector<std::string>;
+
+std::string imageWithTypeByte(unsigned char type) {
+  std::string bytes(image::map::kZpdSize, '\0');
+  bytes[image::map::kProductTypeByte] = static_cast<char>(type);
+  return bytes;
+}
+
+TEST(Class1ProductType, AcceptsABoardImageWithoutAsking) {
+  Desk desk;
+  TempFolder tmp;
+  std::string path = tmp.write("job.zpd", imageWithTypeByte(11));
+  EXPECT_EQ(desk.class1().Product_Type(path), 1);
+  EXPECT_TRUE(desk.shown().empty());
+  EXPECT_EQ(desk.session().image.at(image::map::kProductTypeByte), 11);
+}
+
+TEST(Class1ProductType, AsksAboutAnyOtherFile) {
+  Desk desk;
+  TempFolder tmp;
+  std::string foreign = tmp.write("other.zpd", imageWithTypeByte(7));
+  std::string shortFile = tmp.write("short.zpd", "hello");
+  const std::string question = "msgbox \"Select File is not Pellam Type Continue Loading?\" YesNo -> ";
+
+  desk.answer(ui::Answer::No);
+  EXPECT_EQ(desk.class1().Product_Type(foreign), -1);
+  EXPECT_EQ(desk.shown(), Lines{question + "No"});
+  EXPECT_EQ(desk.session().image.at(image::map::kProductTypeByte), 7) << "the byte read stays in the image";
+
+  desk.answer(ui::Answer::Yes);
+  EXPECT_EQ(desk.class1().Product_Type(shortFile), 1);
+  EXPECT_EQ(desk.shown(), Lines{question + "Yes"});
+  EXPECT_EQ(desk.session().image.at(image::map::kProductTypeByte), 0) << "a short file reads 0 there";
+}
+
+TEST(Class1ProductType, RefusesWhatIsNotAFile) {
+  Desk desk;
+  TempFolder tmp;
+  for (std::string path : {tmp.file("missing.zpd"), tmp.path().string(), std::string()}) {
+    EXPECT_EQ(desk.class1().Product_Type(path), -1);
+    EXPECT_EQ(desk.shown(), Lines{"msgbox \"Cannot Open File: " + path + "\" OK"});
+  }
+  EXPECT_FALSE(std::filesystem::exists(tmp.file("missing.zpd"))) << "no stray file is made";
+}
+
+TEST(Class1ReturnFileNamePath, ShowsTheFileDialogAndGivesThePath) {
+  struct Recorder : ui::Dialogs {
+    ui::FileDialogRequest request;
+    std::string answer;
+    ui::Answer msgBox(const std::string&, ui::Buttons) override { return ui::Answer::OK; }
+    std::string openFile(const ui::FileDialogRequest& r) override {
+      request = r;
+      return answer;
+    }
+  } dialogs;
+  NoViewer shell;
+  SystemClock clock;
+  auto session = std::make_unique<Session>(dialogs, shell, clock);
+  Class1 c(*session);
+  std::string filter = "Pellam Files (*.zpd)|*.zpd";
+  dialogs.answer = "/jobs/a.zpd";
+  EXPECT_EQ(c.Return_FileName_Path(filter), "/jobs/a.zpd");
+  EXPECT_EQ(dialogs.request.filter, filter);
+  EXPECT_EQ(dialogs.request.filterIndex, 3);
+  EXPECT_TRUE(dialogs.request.hideReadOnly);
+  dialogs.answer = "";
+  EXPECT_EQ(c.Return_FileName_Path(filter), "") << "a cancel gives an empty string";
+}
+
+// The host_members script walks load, hide and unload; this checks what a script cannot see.
+TEST(Class1FormMembers, UnloadKeepsTheTablesAndLoadHonoursTheHost) {
+  Desk desk;
+  Class1 c = desk.class1();
+  c.Initailize_Pellam_Variables_And_Form();
+  desk.job().roomCombine.records[12].CombineChannel = 12;
+  c.Load_User_Form();
+  EXPECT_FALSE(desk.form().modal()) << "shown modeless when the host allows it";
+  c.Unload_Pellam_Form();
+  EXPECT_EQ(desk.job().roomCombine.records[12].CombineChannel, 12) << "the tables survive";
+  desk.session().hostAllowsModelessForms = false;
+  c.Load_User_Form();
+  EXPECT_TRUE(desk.form().modal());
+  EXPECT_FALSE(desk.form().Page2.visible()) << "a reloaded form shows no editor before a confirm";
+}
+
+TEST(Class1, EveryInstanceSharesTheProcessSession) {
+  Class1 first;
+  Class1 second;
+  first.Initailize_Pellam_Variables_And_Form();
+  Session::shared().form.ComboBox1.select(2);
+  second.Initailize_Pellam_Variables_And_Form();
+  EXPECT_EQ(Session::shared().form.ComboBox1.listIndex(), -1) << "the second instance reset the first one's form";
+  first.Unload_Pellam_Form();
+}
+
+}  // namespace
+}  // namespace pellam::component

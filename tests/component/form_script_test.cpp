@@ -1,0 +1,95 @@
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "component/script/form_script.h"
+#include "component/script/script_tokens.h"
+#include "support/desk.h"
+
+namespace pellam::component::script {
+namespace {
+
+struct ScriptRun {
+  int status;
+  std::string out, err;
+};
+
+ScriptRun run(const std::string& text) {
+  std::istringstream in(text);
+  std::ostringstream out, err;
+  const int status = runFormScript(in, out, err);
+  return {status, out.str(), err.str()};
+}
+
+const std::string kStart = "call Initailize_Pellam_Variables_And_Form\n";
+
+TEST(ScriptTokens, WordsStringsEscapesAndComments) {
+  const auto tokens = tokenize(R"(text TextBox5 "a \"b\"\\\r\n\t" # a comment)");
+  ASSERT_EQ(tokens.size(), 3u);
+  EXPECT_EQ(tokens[0].text, "text");
+  EXPECT_FALSE(tokens[0].quoted);
+  EXPECT_EQ(tokens[2].text, "a \"b\"\\\r\n\t");
+  EXPECT_TRUE(tokens[2].quoted);
+  EXPECT_EQ(quote(tokens[2].text), R"("a \"b\"\\\r\n\t")");
+  EXPECT_EQ(tokenize("choose \"\"").at(1).text, "");
+  EXPECT_EQ(tokenize("choose \"a # b\"").at(1).text, "a # b");
+  EXPECT_TRUE(tokenize("   # only a comment").empty());
+}
+
+TEST(FormScript, RefusesMistakesByNameWithTheLine) {
+  const std::pair<std::string, std::string> cases[] = {
+      {"frobnicate", "error: line 2: unknown command frobnicate\n"},
+      {"click ComboBox999", "error: line 2: unknown control ComboBox999\n"},
+      {"call Save_Everything", "error: line 2: unknown member Save_Everything\n"},
+      {"call Return_Dir_Path", "error: line 2: Return_Dir_Path takes 1 argument(s), not 0\n"},
+      {"select ComboBox1 6", "error: line 2: index 6 is out of range for ComboBox1 (count 6)\n"},
+      {"select ComboBox1 two", "error: line 2: bad index two\n"},
+      {"select CommandButton4 1", "error: line 2: CommandButton4 is not a combo box or list box\n"},
+      {"click ComboBox1", "error: line 2: ComboBox1 is not a command button or option button\n"},
+      {"text TextBox5 unquoted", "error: line 2: the text must be a quoted string\n"},
+      {"answer Maybe", "error: line 2: bad answer Maybe (Yes, No, OK or Cancel)\n"},
+      {"clock \"2026-13-01 00:00:00\"", "error: line 2: bad time \"2026-13-01 00:00:00\" (give \"YYYY-MM-DD HH:MM:SS\")\n"},
+      {"bytes 34000 5", "error: line 2: bytes 34000..34004 lie outside the image (0..34001)\n"},
+      {"show \"ComboBox1", "error: line 2: string not closed\n"},
+      {"call Show_Hide_Pellam_Form \"yes\"", "error: line 2: bad argument \"yes\" (give True or False)\n"},
+      {"call Return_Dir_Path somewhere", "error: line 2: bad argument somewhere (give a quoted string, a number, True or False)\n"},
+      {"select MultiPage1 3", "error: line 2: page 3 of MultiPage1 is not showing\n"},
+  };
+  for (const auto& [line, error] : cases) {
+    const ScriptRun r = run(kStart + line + "\nshow UserForm1\n");
+    EXPECT_EQ(r.status, 2) << line;
+    EXPECT_EQ(r.err, error) << line;
+    EXPECT_EQ(r.out, "") << "nothing after the bad line runs";
+  }
+}
+
+TEST(FormScript, QuestionsNeedQueuedAnswersThatFit) {
+  testing::TempFolder tmp;
+  const std::string question = "call Product_Type \"" + tmp.write("short.zpd", "x") + "\"\n";
+  ScriptRun r = run(kStart + question);
+  EXPECT_EQ(r.status, 2);
+  EXPECT_EQ(r.err, "error: line 2: no answer queued for msgbox \"Select File is not Pellam Type Continue Loading?\" YesNo\n");
+
+  r = run(kStart + "answer OK\n" + question);
+  EXPECT_EQ(r.err,
+            "error: line 3: answer OK (queued on line 2) does not fit msgbox \"Select File is not Pellam Type Continue "
+            "Loading?\" YesNo\n");
+
+  r = run(kStart + "answer No\n" + question);
+  EXPECT_EQ(r.status, 0) << r.err;
+  EXPECT_EQ(r.out, "msgbox \"Select File is not Pellam Type Continue Loading?\" YesNo -> No\n=> -1\n");
+
+  r = run(kStart + "call Load_User_Form\nanswer Yes\n");
+  EXPECT_EQ(r.status, 2);
+  EXPECT_EQ(r.err, "error: line 3: \"Yes\" was queued but never used\n");
+
+  r = run(kStart + "choose \"a.zpd\"\nchoose \"b.zpd\"\ncall Return_FileName_Path \"*.zpd\"\n");
+  EXPECT_EQ(r.out, "=> \"a.zpd\"\n");
+  EXPECT_EQ(r.err, "error: line 3: \"b.zpd\" was queued but never used\n");
+
+  r = run(kStart + "call Return_FileName_Path \"*.zpd\"\n");
+  EXPECT_EQ(r.err, "error: line 2: no path queued for the file dialog\n");
+}
+
+}  // namespace
+}  // namespace pellam::component::script

@@ -1,0 +1,359 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <algorithm>
+#include <map>
+#include <random>
+#include <set>
+
+#include "component/job_files.h"
+#include "image/memory_map.h"
+#include "support/desk.h"
+
+namespace pellam::files {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::Desk;
+using testing::TempFolder;
+using testing::readAll;
+using Lines = std::vector<std::string>;
+
+std::map<std::string, std::string> folderContents(const fs::path& folder) {
+  std::map<std::string, std::string> files;
+  for (const auto& entry : fs::directory_iterator(folder)) files[entry.path().filename().string()] = readAll(entry.path());
+  return files;
+}
+
+// The first differing file and offset: a whole image in a failure message helps nobody.
+std::string firstDifference(const std::map<std::string, std::string>& a, const std::map<std::string, std::string>& b) {
+  if (a.size() != b.size()) return "different files";
+  for (const auto& [name, bytes] : a) {
+    const std::string& other = b.count(name) ? b.at(name) : std::string("<missing>");
+    const auto at = std::mismatch(bytes.begin(), bytes.end(), other.begin(), other.end());
+    if (at.first != bytes.end() || at.second != other.end()) return name + " at " + std::to_string(at.first - bytes.begin());
+  }
+  return "";
+}
+
+std::string box(const std::string& text) { return "msgbox \"" + text + "\" OK"; }
+
+// A master board of the given mode with input scan, a refresh rate and input numbering, master
+// inputs and remote commands, and a table for the mode filled as its editor would.
+void buildJob(Desk& desk, int mode) {
+  ui::UserForm1& f = desk.form();
+  f.ComboBox48.select(2);
+  f.ComboBox1.select(mode);
+  f.ComboBox2.select(1);
+  f.ComboBox6.select(mode == 1 || mode == 4 ? 5 : 2);
+  f.OptionButton4.choose();
+  f.OptionButton8.choose();
+  f.ComboBox55.select(190);
+  f.OptionButton1.choose();
+
+  job::Job& job = desk.job();
+  job.inputNumbering.records[1] = {1, 40};
+  job.inputNumbering.records[2] = {2, 41};
+  job.masterInputs.entries = {1, 0, 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 3};
+  job.remoteCommands.blocks[2].Mode = 2;
+  job.remoteCommands.blocks[2].Page = 3;
+  job.remoteCommands.blocks[2].Listed[5] = 5;
+  job.remoteCommands.blocks[2].Value[5] = 7;
+  switch (mode) {
+    case 1: {
+      auto& one = job.channelEmulation.records[3];
+      auto& two = job.channelEmulation.records[19];
+      one.InputNumber = 3;
+      one.PartnerIndex = 19;
+      one.FadeRate = 61;
+      two.FadeRate = 12;
+      for (int s = 0; s < 20; ++s) {
+        one.Channels[static_cast<std::size_t>(s)] = two.Channels[static_cast<std::size_t>(s)] = static_cast<std::int16_t>(100 + s);
+        one.Levels[static_cast<std::size_t>(s)] = static_cast<std::int16_t>(s < 10 ? 75 : 40);
+      }
+      one.Channels[5] = two.Channels[5] = -1;  // a deleted slot stays a hole
+      one.Channels[20] = two.Channels[20] = 2048;
+      two.Levels[20] = 100;
+      break;
+    }
+    case 4:
+      job.presetEmulation.at(4, 2) = {5, 10, 17, 2, 0};
+      job.presetEmulation.at(7, 2) = {8, 9, 16, 200, 1};
+      job.presetEmulation.at(0, 16) = {1, 11, 3, 0, 0};
+      job.presetEmulation.at(126, 18) = {127, 7, 1, 0, 0};
+      break;
+    default:
+      job.roomLink.records[2] = {3, 12, 13, 0};
+      job.roomLink.records[16] = {17, 1, 255, 1};
+      job.stationLink.records[21] = {21, 9, 4, 0};
+      job.stationLink.records[127] = {127, 14, 255, 1};
+      job.stationPersonality.records[20] = {21, 9, 3, 0, 4};
+      if (mode == 3) {
+        job.roomCombine.records[12] = {12, 3, 5, 1};
+        job.roomCombine.records[2048] = {2048, 255, 255, 2};
+        job.board.FurtherOption = 9;
+      }
+      // Tables filled by hand are listed as an opened job lists them: the report prints the list.
+      desk.session().roomLinkPage.ListDecoded(mode);
+  }
+}
+
+void save(Desk& desk, const std::string& jobPath) {
+  std::string path = jobPath;
+  desk.class1().Create_Pellam_Zpd(path);
+}
+
+void open(Desk& desk, const std::string& zpd) {
+  component::Class1 c = desk.class1();
+  std::string path = zpd;
+  ASSERT_EQ(c.Product_Type(path), 1);
+  c.ReadZPD_ImageFile(path);
+}
+
+TEST(SaveAndOpen, EveryModeSurvivesAReopenAndSavesTheSameBytes) {
+  for (int mode = 1; mode <= 5; ++mode) {
+    SCOPED_TRACE("mode " + std::to_string(mode));
+    TempFolder first, second;
+    Desk author;
+    author.startUp();
+    buildJob(author, mode);
+    save(author, first.file("Lobby.txt"));
+    EXPECT_TRUE(author.shown().empty());
+
+    Desk reader;
+    reader.startUp();
+    open(reader, first.file("Lobby.zpd"));
+    EXPECT_TRUE(reader.shown().empty());
+    save(reader, second.file("Lobby.txt"));
+
+    const auto written = folderContents(first.path());
+    EXPECT_EQ(firstDifference(written, folderContents(second.path())), "");
+    EXPECT_EQ(written.at("Lobby.zpd").size(), 32767u);
+    EXPECT_EQ(written.at("Lobby.zpd")[6101], 11);
+
+    const job::Job& a = author.job();
+    const job::Job& b = reader.job();
+    EXPECT_EQ(b.board.OperatingMode, mode);
+    EXPECT_EQ(b.board.InputAction, a.board.InputAction);
+    EXPECT_EQ(b.board.RefreshRate, 12000);
+    EXPECT_EQ(b.board.BoardOptions, 1 | 4);
+    EXPECT_EQ(reader.form().ComboBox55.text(), "10 Minutes");
+    EXPECT_TRUE(reader.form().OptionButton8.value());
+    EXPECT_EQ(b.masterInputs.entries, a.masterInputs.entries);
+    EXPECT_EQ(b.remoteCommands.blocks[2].Value[5], 7);
+    EXPECT_EQ(b.inputNumbering.records[2].RoomNumber, 41);
+    const ui::Page* modePage[] = {nullptr, &reader.form().Page2, &reader.form().Page3, &reader.form().Page4,
+                                  &reader.form().Page5, &reader.form().Page6};
+    EXPECT_TRUE(modePage[mode]->visible());
+  }
+}
+
+TEST(SaveAndOpen, EachModeWritesItsOwnFiles) {
+  const std::map<int, std::set<std::string>> expected = {
+      {1, {"a.txt", "a.zpd"}},
+      {2, {"a.txt", "a.zpd"}},
+      {3, {"aUserData.txt", "aLnkData.txt", "aNetData.txt", "aGrpRoom.txt", "a.zpd"}},
+      {4, {"aPreSetData.txt", "a.zpd"}},
+      {5, {"aLnkData.txt", "aNetData.txt", "a.zpd"}},
+  };
+  for (const auto& [mode, names] : expected) {
+    SCOPED_TRACE(mode);
+    TempFolder folder;
+    Desk desk;
+    desk.startUp();
+    buildJob(desk, mode);
+    save(desk, folder.file("a.txt"));
+    std::set<std::string> written;
+    for (const auto& [name, bytes] : folderContents(folder.path())) written.insert(name);
+    EXPECT_EQ(written, names);
+    EXPECT_EQ(desk.session().currentJobFile, folder.file("a.zpd"));
+    EXPECT_EQ(desk.form().Label144.caption(), folder.file("a.zpd"));
+  }
+}
+
+TEST(SaveAndOpen, AnEmptyTableWritesOnlyTheFileEnd) {
+  TempFolder folder;
+  Desk desk;
+  desk.startUp();
+  desk.form().ComboBox1.select(2);
+  save(desk, folder.file("a.txt"));
+  EXPECT_EQ(readAll(folder.path() / "a.txt"), "\r\n\r\n");
+}
+
+class SaveRefusals : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    desk.startUp();
+    buildJob(desk, 5);
+  }
+  Desk desk;
+  TempFolder folder;
+};
+
+TEST_F(SaveRefusals, AFailedSaveLeavesTheOldJobAsItWas) {
+  folder.write("a.zpd", "the old job");
+  folder.write("aLnkData.txt", "old links");
+  fs::create_directory(folder.path() / "aNetData.txt.pellam-new");  // the net data cannot be written
+  save(desk, folder.file("a.txt"));
+  EXPECT_EQ(desk.shown(), Lines{box("Cannot Write File: " + folder.file("aNetData.txt"))});
+  EXPECT_EQ(readAll(folder.path() / "a.zpd"), "the old job");
+  EXPECT_EQ(readAll(folder.path() / "aLnkData.txt"), "old links");
+  EXPECT_FALSE(fs::exists(folder.path() / "aLnkData.txt.pellam-new")) << "no half-written file is left";
+}
+
+TEST_F(SaveRefusals, ALongerOldFileIsReplacedWhole) {
+  folder.write("a.zpd", std::string(40000, 'x'));
+  save(desk, folder.file("a.txt"));
+  EXPECT_EQ(fs::file_size(folder.path() / "a.zpd"), 32767u);
+}
+
+class Opening : public ::testing::Test {
+ protected:
+  void SetUp() override { desk.startUp(); }
+  Desk desk;
+  TempFolder folder;
+};
+
+TEST_F(Opening, AShortFileLeavesTheRestZeroAndALongOneIsCut) {
+  std::string shortImage(6200, '\0');
+  shortImage[6100] = 2;
+  shortImage[6101] = 11;
+  shortImage[5] = 9;
+  open(desk, folder.write("short.zpd", shortImage));
+  EXPECT_EQ(desk.session().image.at(5), 9);
+  EXPECT_EQ(desk.session().image.at(6400), 0);
+  EXPECT_EQ(desk.job().board.HardwareType, 2);
+
+  std::string longImage(40000, '\x07');
+  longImage[6101] = 11;
+  open(desk, folder.write("long.zpd", longImage));
+  EXPECT_EQ(desk.session().image.at(32766), 7);
+  EXPECT_EQ(desk.session().image.at(32767), 0) << "only 32,767 bytes are read";
+}
+
+TEST_F(Opening, AnEmptyOrMissingFileIsRefusedAndChangesNothing) {
+  desk.session().image.put(6400, 4);
+  desk.job().roomLink.records[3].LinkInput = 4;
+  std::string missing = folder.file("missing.zpd");
+  desk.class1().ReadZPD_ImageFile(missing);
+  EXPECT_EQ(desk.shown(), Lines{box("Cannot Open File: " + missing)});
+  EXPECT_EQ(desk.session().image.at(6400), 4);
+  EXPECT_EQ(desk.job().roomLink.records[3].LinkInput, 4);
+
+  std::string empty = folder.write("empty.zpd", "");
+  desk.answer(ui::Answer::No);
+  EXPECT_EQ(desk.class1().Product_Type(empty), -1);
+  EXPECT_EQ(desk.job().roomLink.records[3].LinkInput, 4) << "a foreign file answered No leaves the tables";
+}
+
+TEST_F(Opening, AModeThreeJobReadsItsReport) {
+  Desk author;
+  author.startUp();
+  buildJob(author, 3);
+  save(author, folder.file("a.txt"));
+  folder.write("aUserData.txt", "report text");
+  open(desk, folder.file("a.zpd"));
+  EXPECT_EQ(desk.session().companionReport, "report text");
+}
+
+// Faults found in review, each kept from coming back.
+class SaveAndOpenEdges : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    author.startUp();
+    reader.startUp();
+  }
+  Desk author, reader;
+  TempFolder folder;
+};
+
+TEST_F(SaveAndOpenEdges, StationsOnNumberedRoomsSurviveAndNumberingAddsNone) {
+  buildJob(author, 5);
+  for (std::int16_t i = 1; i <= 16; ++i) author.job().inputNumbering.records[static_cast<std::size_t>(i)] = {i, i};
+  author.job().stationLink.records[2] = {2, 9, 6, 0};
+  author.job().stationLink.records[3] = {3, 10, 7, 0};
+  save(author, folder.file("a.txt"));
+  open(reader, folder.file("a.zpd"));
+  std::vector<int> netIds;
+  for (const auto& r : reader.job().stationLink.records) {
+    if (r.LinkNetId > 0) netIds.push_back(r.LinkNetId);
+  }
+  EXPECT_EQ(netIds, (std::vector<int>{2, 3, 21, 127}));
+  EXPECT_EQ(reader.job().inputNumbering.records[5].InputNumber, 5);
+  EXPECT_EQ(reader.job().inputNumbering.records[5].RoomNumber, 5);
+}
+
+TEST_F(SaveAndOpenEdges, TheInputActionOffsetIsAFixedPoint) {
+  buildJob(author, 1);
+  author.job().masterInputs.Mode = 1;
+  author.job().masterInputs.Companion = 2;
+  author.job().board.InputAction = 7;  // a master-input action the offset stores as 3
+  save(author, folder.file("a.txt"));
+  const std::string bytes = readAll(folder.path() / "a.zpd");
+  EXPECT_EQ(bytes[6202], 3);
+  EXPECT_EQ(bytes[6204], 1);
+  open(reader, folder.file("a.zpd"));
+  EXPECT_EQ(reader.job().board.InputAction, 7);
+
+  author.job().board.InputAction = 1;  // an action the offset cannot express is stored as it is
+  save(author, folder.file("a.txt"));
+  const std::string plain = readAll(folder.path() / "a.zpd");
+  EXPECT_EQ(plain[6202], 1);
+  EXPECT_EQ(plain[6204], 0);
+  EXPECT_EQ(plain[6400], 1) << "the board bytes are all written";
+  EXPECT_TRUE(author.shown().empty());
+}
+
+TEST_F(SaveAndOpenEdges, AnInputThatCannotBeStoredIsNamedAndTheOthersAreKept) {
+  buildJob(author, 1);
+  auto& crowded = author.job().channelEmulation.records[2];
+  for (std::size_t s = 0; s < 150; ++s) {
+    crowded.Channels[s] = static_cast<std::int16_t>(1 + 2 * s);  // 150 scattered channels
+    crowded.Levels[s] = static_cast<std::int16_t>(s % 2 * 50);
+  }
+  save(author, folder.file("a.txt"));
+  EXPECT_EQ(author.shown(), Lines{box("Error module WriteChannelEmulation Input 2")});
+  open(reader, folder.file("a.zpd"));
+  EXPECT_EQ(reader.job().channelEmulation.records[3].ChannelCount, 20) << "input 3 after it is packed";
+  EXPECT_EQ(reader.job().channelEmulation.records[19].FadeRate, 12);
+}
+
+TEST_F(SaveAndOpenEdges, ALargeTimerAndTheScanBytesComeBackWhole) {
+  buildJob(author, 3);
+  author.job().board.RefreshRate = 65535;
+  save(author, folder.file("a.txt"));
+  reader.job().board.FurtherOption = 44;
+  open(reader, folder.file("a.zpd"));
+  EXPECT_EQ(reader.job().board.RefreshRate, 65535);
+  EXPECT_EQ(reader.form().ComboBox55.listIndex(), -1) << "no list item says 3277 seconds";
+  EXPECT_EQ(reader.job().board.FurtherOption, 9);
+
+  buildJob(author, 2);
+  save(author, folder.file("b.txt"));
+  open(reader, folder.file("b.zpd"));
+  EXPECT_EQ(reader.job().board.FurtherOption, 0) << "nothing is left over from the job before";
+}
+
+// Random images must decode and save again without a crash or a sanitizer report.
+TEST(SaveAndOpenFuzz, RandomImagesDecodeAndSave) {
+  std::mt19937 random(20261123);
+  TempFolder folder;
+  Desk desk;
+  desk.startUp();
+  for (int round = 0; round < 2000; ++round) {
+    auto bytes = desk.session().image.bytes();
+    for (int i = 0; i < image::map::kZpdSize; ++i) bytes[static_cast<std::size_t>(i)] = static_cast<std::uint8_t>(random());
+    if (round % 2 == 0) bytes[image::map::kOperatingModeByte] = static_cast<std::uint8_t>(round % 7);
+    component::DecodeImage(desk.session());
+    if (round % 10 == 0) {
+      desk.answer(ui::Answer::No);
+      component::SaveJobSequence(desk.session(), folder.file("fuzz.txt"), "Directory Not Found");
+    }
+    desk.shown();
+  }
+  SUCCEED();
+}
+
+}  // namespace
+}  // namespace pellam::files

@@ -1,0 +1,35 @@
+# Runs one form script in an empty folder of its own and compares what it prints.
+file(REMOVE_RECURSE "${WORK}")
+file(MAKE_DIRECTORY "${WORK}")
+# The script finds itself in its folder, as a file that is not a board image.
+file(COPY "${SCRIPT}" DESTINATION "${WORK}")
+execute_process(COMMAND "${PELLAM}" run "${SCRIPT}"
+  WORKING_DIRECTORY "${WORK}"
+  OUTPUT_VARIABLE out ERROR_VARIABLE err RESULT_VARIABLE status)
+file(REMOVE_RECURSE "${WORK}")
+
+string(REGEX REPLACE "\\.pellam$" "" base "${SCRIPT}")
+file(READ "${base}.out" expected_out)
+set(expected_err "")
+set(expected_status 0)
+if(EXISTS "${base}.err")
+  file(READ "${base}.err" expected_err)
+  set(expected_status 2)
+endif()
+
+set(failed FALSE)
+if(NOT out STREQUAL expected_out)
+  message("--- expected standard output\n${expected_out}--- got\n${out}---")
+  set(failed TRUE)
+endif()
+if(NOT err STREQUAL expected_err)
+  message("--- expected standard error\n${expected_err}--- got\n${err}---")
+  set(failed TRUE)
+endif()
+if(NOT status EQUAL expected_status)
+  message("exit status ${status}, expected ${expected_status}")
+  set(failed TRUE)
+endif()
+if(failed)
+  message(FATAL_ERROR "${SCRIPT} did not print what it should")
+endif()

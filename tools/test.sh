@@ -1,0 +1,23 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds and runs every test: the Windows build of the core and
+# pellam first (nothing POSIX-only may creep in), then g++ with -Werror, then clang under
+# AddressSanitizer and UndefinedBehaviorSanitizer.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+source tools/packages.sh
+ensure_packages "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}"
+
+echo "== MinGW-w64: the core and pellam.exe"
+cmake --preset mingw >/dev/null
+cmake --build --preset mingw
+echo "built build/mingw/apps/cli/pellam.exe"
+
+echo "== g++: build and test"
+cmake --preset dev >/dev/null
+cmake --build --preset dev
+ctest --preset dev
+
+echo "== clang with AddressSanitizer and UndefinedBehaviorSanitizer"
+cmake --preset clang-sanitize >/dev/null
+cmake --build --preset clang-sanitize
+ctest --preset clang-sanitize

@@ -87,7 +87,10 @@ void decodeRegions(Session& s, int mode) {
   ui::trap(d, "Error M11Trap3", [&] { image::DecodeRemoteCommands(img, job.remoteCommands); });
   ui::trap(d, "Error M13Trap2", [&] { image::DecodeMasterInputs(img, job.masterInputs); });
   switch (mode) {
-    case 1: image::DecodeChannelEmulation(img, job.channelEmulation); break;
+    case 1:
+      image::DecodeChannelEmulation(img, job.channelEmulation);
+      s.channelEmulationPage.ListDecoded();
+      break;
     case 2:
       image::DecodeRoomLink(img, job.roomLink);
       s.roomLinkPage.ListDecoded(mode);

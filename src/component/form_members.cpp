@@ -4,6 +4,7 @@ namespace pellam::component {
 
 void LoadUserForm(Session& s) {
   s.form.load();
+  s.remoteCommandsPage.PrepareControls();
   s.form.CommandButton17.setVisible(false);
   s.form.Frame23.setVisible(false);
   s.form.Frame28.setVisible(false);
@@ -15,7 +16,9 @@ void UnloadUserForm(Session& s) {
   s.form.unload();
   s.job.board = job::BoardSetup{};
   s.channelEmulationPage.reset();
+  s.presetEmulationPage.reset();
   s.roomLinkPage.reset();
+  s.stationLinkPage.reset();
   s.roomCombinePage.reset();
 }
 

@@ -84,8 +84,14 @@ void decodeRegions(Session& s, int mode) {
   const image::EepromImage& img = s.image;
   ui::Dialogs& d = s.dialogs();
   // Remote commands and master inputs are packed in every mode, so every mode reads them back.
-  ui::trap(d, "Error M11Trap3", [&] { image::DecodeRemoteCommands(img, job.remoteCommands); });
-  ui::trap(d, "Error M13Trap2", [&] { image::DecodeMasterInputs(img, job.masterInputs); });
+  ui::trap(d, "Error M11Trap3", [&] {
+    image::DecodeRemoteCommands(img, job.remoteCommands);
+    s.remoteCommandsPage.ListDecoded();
+  });
+  ui::trap(d, "Error M13Trap2", [&] {
+    image::DecodeMasterInputs(img, job.masterInputs);
+    s.masterInputsPage.ListDecoded();
+  });
   switch (mode) {
     case 1:
       image::DecodeChannelEmulation(img, job.channelEmulation);
@@ -101,12 +107,18 @@ void decodeRegions(Session& s, int mode) {
       image::DecodeRoomCombine(img, job.roomCombine);
       s.roomCombinePage.ListDecoded();
       image::DecodeStationsFormA(img, job.stationLink, numbering);
+      s.stationLinkPage.ListDecoded();
       break;
-    case 4: image::DecodePresetEmulation(img, job.presetEmulation); break;
+    case 4:
+      image::DecodePresetEmulation(img, job.presetEmulation);
+      s.presetEmulationPage.ListDecoded();
+      break;
     case 5:
       image::DecodeRoomLink(img, job.roomLink);
       s.roomLinkPage.ListDecoded(mode);
       image::DecodeStationsFormB(img, job.stationLink, job.stationPersonality, numbering);
+      s.stationLinkPage.ListDecoded();
+      s.stationPersonalityPage.ListDecoded();
       break;
     default: break;
   }
@@ -161,6 +173,7 @@ void DecodeImage(Session& s) {
     } else {
       job::ClearInputNumbering(s.job.inputNumbering);
     }
+    s.inputNumberingPage.ListDecoded();
   });
   ui::trap(d, "Error M2Trap30", [&] {
     s.navigation.showModePage();

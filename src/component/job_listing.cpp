@@ -3,6 +3,7 @@
 #include <sstream>
 
 #include "editors/channel_emulation/list_lines.h"
+#include "editors/input_numbering/input_numbering_page.h"
 #include "editors/preset_emulation/list_lines.h"
 #include "editors/remote_commands/list_lines.h"
 #include "editors/room_combine/list_lines.h"
@@ -112,7 +113,7 @@ void listSettings(std::ostream& out, const job::Job& job) {
   }
   std::string numbering;
   for (const job::InputNumberRecord& r : job.inputNumbering.records) {
-    if (r.RoomNumber != 0) numbering += "  Input " + std::to_string(r.InputNumber) + ": Room " + std::to_string(r.RoomNumber) + "\n";
+    if (r.RoomNumber != 0) numbering += "  " + editors::input_numbering::numberingLine(r) + "\n";
   }
   if ((job.board.BoardOptions & 1) != 0 && !numbering.empty()) {
     heading(out, "Input numbering");

@@ -1,5 +1,7 @@
 #include "component/page_navigation.h"
 
+#include "image/pack.h"
+
 namespace pellam::component {
 
 ui::Page* PageNavigation::pageOfMode(ui::UserForm1& form, int mode) {
@@ -27,6 +29,10 @@ void PageNavigation::showModePage() {
   if (ui::Page* page = pageOfMode(form_, board_.OperatingMode)) page->setVisible(true);
   // Room and group names belong to a room-combine job: its report lists them.
   if (board_.OperatingMode == 3) form_.Page8.setVisible(true);
+  // Remote LEDs and buttons are set up with channel emulation; other modes save the table as it stands.
+  if (board_.OperatingMode == 1) form_.Page7.setVisible(true);
+  // Input numbering is packed only while option bit 0 is set, in any mode.
+  if (image::optionBitZero(board_.BoardOptions)) form_.Page9.setVisible(true);
 }
 
 }  // namespace pellam::component

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <iosfwd>
+#include <string>
+#include <utility>
 
 #include "ui/dialogs.h"
 
@@ -21,6 +23,18 @@ class UnattendedDialogs final : public ui::Dialogs {
 class NoViewer final : public ui::Shell {
  public:
   bool openInViewer(const std::string&) override { return false; }
+};
+
+// The desktop's own program for a text file: Notepad on Windows, xdg-open elsewhere. It is
+// started and left to run; false only when it could not be started at all.
+class DesktopViewer final : public ui::Shell {
+ public:
+  DesktopViewer();
+  explicit DesktopViewer(std::string program) : program_(std::move(program)) {}
+  bool openInViewer(const std::string& path) override;
+
+ private:
+  std::string program_;
 };
 
 class SystemClock final : public ui::Clock {

@@ -11,10 +11,16 @@ Session::Session(ui::Dialogs& dialogs, ui::Shell& shell, ui::Clock& clock)
     : platform_(dialogs, shell, clock),
       navigation(form, job.board),
       boardPage(form, job.board, platform_, navigation),
+      masterInputsPage(form, job.masterInputs, platform_),
       channelEmulationPage(form, job.channelEmulation, platform_),
+      presetEmulationPage(form, job.presetEmulation, platform_),
       roomLinkPage(form, job.roomLink, platform_),
+      stationLinkPage(form, job.stationLink, platform_),
+      stationPersonalityPage(form, job.stationPersonality, platform_),
       roomCombinePage(form, job.roomCombine, platform_),
       namingPage(form, job.roomGroupNames, platform_),
+      remoteCommandsPage(form, job.remoteCommands, platform_),
+      inputNumberingPage(form, job.inputNumbering, platform_),
       filesPage(*this) {
   navigation.setBoardPage(boardPage);
 }

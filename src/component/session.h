@@ -5,13 +5,19 @@
 #include "component/files_page.h"
 #include "component/page_navigation.h"
 #include "editors/channel_emulation/channel_emulation_page.h"
+#include "editors/input_numbering/input_numbering_page.h"
 #include "editors/naming/naming_page.h"
+#include "editors/preset_emulation/preset_emulation_page.h"
+#include "editors/remote_commands/remote_commands_page.h"
 #include "editors/room_combine/room_combine_page.h"
 #include "editors/room_link/room_link_page.h"
+#include "editors/station_link/station_link_page.h"
+#include "editors/station_personality/station_personality_page.h"
 #include "files/room_combine_report.h"
 #include "image/eeprom_image.h"
 #include "job/job.h"
 #include "setup/board_setup_page.h"
+#include "setup/master_inputs.h"
 #include "ui/dialogs.h"
 #include "ui/user_form.h"
 
@@ -75,10 +81,16 @@ class Session {
  public:
   PageNavigation navigation;
   setup::BoardSetupPage boardPage;
+  setup::MasterInputsPage masterInputsPage;
   editors::channel_emulation::ChannelEmulationPage channelEmulationPage;
+  editors::preset_emulation::PresetEmulationPage presetEmulationPage;
   editors::room_link::RoomLinkPage roomLinkPage;
+  editors::station_link::StationLinkPage stationLinkPage;
+  editors::station_personality::StationPersonalityPage stationPersonalityPage;
   editors::room_combine::RoomCombinePage roomCombinePage;
   editors::naming::NamingPage namingPage;
+  editors::remote_commands::RemoteCommandsPage remoteCommandsPage;
+  editors::input_numbering::InputNumberingPage inputNumberingPage;
   FilesPage filesPage;
 };
 

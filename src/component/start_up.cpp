@@ -61,17 +61,23 @@ void Initailize_Pellam_Variables_And_Form(Session& s) {
     job.remoteCommands.RemoteMode = 0;
   });
   ui::trap(d, "Error module LoadRefreshRates", [&] { s.boardPage.fillRefreshRates(); });
-  ui::trap(d, "Error module ClearPresetEmulation", [&] { job::ClearPresetEmulation(job.presetEmulation); });
+  ui::trap(d, "Error module ClearPresetEmulation", [&] {
+    job::ClearPresetEmulation(job.presetEmulation);
+    clearLists({&f.ListBox5, &f.ListBox10});
+  });
   ui::trap(d, "Error module ClearChannelEmulation", [&] {
     job::ClearChannelEmulation(job.channelEmulation);
     clearLists({&f.ListBox8, &f.ListBox9});
   });
-  ui::trap(d, "Error module ClearMasterInputs", [&] { job::ClearMasterInputs(job.masterInputs); });
+  ui::trap(d, "Error module ClearMasterInputs", [&] { s.masterInputsPage.Clear(); });
   ui::trap(d, "Error module ClearEEpromImage", [&] {
     image::ClearEEpromImage(s.image, job);
     clearLists({&f.ListBox1, &f.ListBox2, &f.ListBox4, &f.ListBox6});
   });
-  ui::trap(d, "Error module LoadBoardSetupLists", [&] { s.boardPage.fillBoardLists(); });
+  ui::trap(d, "Error module LoadBoardSetupLists", [&] {
+    s.boardPage.fillBoardLists();
+    s.masterInputsPage.fillLists();
+  });
   ui::trap(d, "Error module LoadComboBoxContactClosure", [&] {
     const auto fades = lists::fadeRates();
     f.ComboBox27.setItems(fades);
@@ -84,6 +90,7 @@ void Initailize_Pellam_Variables_And_Form(Session& s) {
   ui::trap(d, "Error module LoadInputAndRoomLists", [&] {
     fillInputAndRoomLists(f);
     s.namingPage.fillLists();
+    s.inputNumberingPage.fillLists();
   });
   ui::trap(d, "Error module LoadStationTypes", [&] {
     f.ComboBox39.setItems(lists::presetStationKinds());
@@ -97,11 +104,14 @@ void Initailize_Pellam_Variables_And_Form(Session& s) {
   ui::trap(d, "Error module HideModePages", [&] { s.navigation.hideModePages(); });
   ui::trap(d, "Error module ClearStationLink", [&] {
     job::ClearStationLink(job.stationLink);
-    clearLists({&f.ListBox3});
+    s.stationLinkPage.reset();
+    // The personalities go with the stations: a new job keeps none of the last one's.
+    job.stationPersonality = {};
+    clearLists({&f.ListBox3, &f.ListBox7});
   });
   ui::trap(d, "Error module LoadRemoteCommandLists", [&] { fillRemoteCommandLists(f); });
-  ui::trap(d, "Error module ClearRemoteCommands", [&] { job::ClearRemoteCommands(job.remoteCommands); });
-  ui::trap(d, "Error module ClearInputNumbering", [&] { job::ClearInputNumbering(job.inputNumbering); });
+  ui::trap(d, "Error module ClearRemoteCommands", [&] { s.remoteCommandsPage.Clear(); });
+  ui::trap(d, "Error module ClearInputNumbering", [&] { s.inputNumberingPage.Clear(); });
 }
 
 }  // namespace pellam::component

@@ -1,11 +1,10 @@
 #include "files/file_type.h"
 
 #include <filesystem>
-
-#include "files/job_paths.h"
 #include <fstream>
 #include <system_error>
 
+#include "files/job_paths.h"
 #include "image/memory_map.h"
 
 namespace pellam::files {

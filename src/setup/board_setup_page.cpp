@@ -48,9 +48,10 @@ void BoardSetupPage::attachHandlers() {
     form_.ComboBox25.setVisible(!master);
     form_.Label23.setVisible(!master);
     form_.ComboBox64.setVisible(master);
+    form_.Label162.setVisible(master);
+    form_.Frame28.setVisible(master);
     if (!master) {
       form_.Frame36.setVisible(false);
-      form_.Frame28.setVisible(false);
       form_.Frame26.setVisible(false);
     }
     boardChoiceChanged();
@@ -69,12 +70,15 @@ void BoardSetupPage::attachHandlers() {
   };
   form_.OptionButton1.onClick = [this] { board_.InputScan = 1; };
   form_.OptionButton2.onClick = [this] { board_.InputScan = 0; };
+  // Bit 0 also decides whether the numbering page belongs to the job: confirm again.
   form_.OptionButton4.onClick = [this] {
     setOptionBit(kInputScanBit, true);
+    boardChoiceChanged();
     refreshDependentControls();
   };
   form_.OptionButton6.onClick = [this] {
     setOptionBit(kInputScanBit, false);
+    boardChoiceChanged();
     refreshDependentControls();
   };
   form_.OptionButton7.onClick = [this] {
@@ -115,6 +119,8 @@ void BoardSetupPage::resetBoardValues() {
   form_.ComboBox25.setVisible(false);
   form_.Label23.setVisible(false);
   form_.ComboBox64.setVisible(false);
+  form_.Label162.setVisible(false);
+  form_.Frame28.setVisible(false);
   form_.ComboBox55.setVisible(false);
   form_.Label67.setVisible(false);
   form_.Frame29.setVisible(false);

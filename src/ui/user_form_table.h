@@ -28,6 +28,7 @@
   X(ComboBox25, ComboBox, "Page1", 150, 110, 100, 24, "", false)                            \
   X(Label104, Label, "Page1", 12, 144, 130, 22, "Input Action", true)                      \
   X(ComboBox6, ComboBox, "Page1", 150, 142, 240, 24, "", true)                              \
+  X(Label162, Label, "Page1", 12, 176, 130, 22, "Master Inputs", false)                     \
   X(ComboBox64, ComboBox, "Page1", 150, 174, 240, 24, "", false)                            \
   X(CommandButton4, CommandButton, "Page1", 12, 212, 200, 30, "Confirm Board Setup", true) \
   X(Label105, Label, "Page1", 12, 252, 200, 22, "Board Setup Summary", true)               \
@@ -46,6 +47,9 @@
   X(OptionButton2, OptionButton, "Frame38", 12, 46, 250, 22, "Do Not Scan Inputs", true)   \
   X(Frame28, Frame, "Page1", 710, 10, 270, 250, "Master Inputs", false)                     \
   X(ComboBox65, ComboBox, "Frame28", 12, 24, 240, 24, "", true)                             \
+  X(ComboBox112, ComboBox, "Frame28", 12, 56, 240, 24, "", true)                            \
+  X(CommandButton113, CommandButton, "Frame28", 12, 88, 240, 28, "Set Master Input", true)  \
+  X(ListBox102, ListBox, "Frame28", 12, 124, 240, 116, "", true)                            \
   X(Frame26, Frame, "Page1", 710, 270, 270, 80, "Master Input Options", false)              \
   X(Frame36, Frame, "Page1", 710, 360, 270, 80, "Master Input Settings", false)             \
   X(Frame21, Frame, "Page1", 12, 440, 480, 220, "Job Files", true)                          \
@@ -133,6 +137,12 @@
   X(Label127, Label, "Page5", 12, 144, 120, 22, "Personality", true)                       \
   X(ComboBox44, ComboBox, "Page5", 140, 142, 160, 24, "", true)                             \
   X(CommandButton17, CommandButton, "Page5", 12, 180, 160, 30, "Show Entry", true)         \
+  X(CommandButton1, CommandButton, "Page5", 320, 14, 200, 30, "Add To KX Input", true)    \
+  X(CommandButton24, CommandButton, "Page5", 320, 50, 200, 30, "Add To Pellam Input", true) \
+  X(Label41, Label, "Page5", 12, 226, 470, 22, "KX Input: ", true)                          \
+  X(ListBox5, ListBox, "Page5", 12, 250, 470, 380, "", true)                                \
+  X(Label151, Label, "Page5", 500, 226, 470, 22, "KX Input: ", true)                        \
+  X(ListBox10, ListBox, "Page5", 500, 250, 470, 380, "", true)                              \
   /* Page6: station link, station personalities and room link group A */                   \
   X(Label128, Label, "Page6", 12, 16, 120, 22, "Station Type", true)                       \
   X(ComboBox34, ComboBox, "Page6", 140, 14, 160, 24, "", true)                              \
@@ -140,8 +150,10 @@
   X(ComboBox35, ComboBox, "Page6", 140, 46, 160, 24, "", true)                              \
   X(Label130, Label, "Page6", 12, 80, 120, 22, "Room", true)                               \
   X(ComboBox33, ComboBox, "Page6", 140, 78, 160, 24, "", true)                              \
+  X(CommandButton8, CommandButton, "Page6", 12, 116, 140, 30, "Add Station", true)          \
+  X(CommandButton21, CommandButton, "Page6", 160, 116, 140, 30, "Delete NetID", true)       \
   X(ListBox3, ListBox, "Page6", 12, 200, 300, 430, "", true)                                \
-  X(Frame102, Frame, "Page6", 330, 10, 320, 170, "Station Personalities", true)             \
+  X(Frame102, Frame, "Page6", 330, 10, 320, 450, "Station Personalities", true)             \
   X(Label131, Label, "Frame102", 12, 26, 100, 22, "Series", true)                          \
   X(ComboBox17, ComboBox, "Frame102", 120, 24, 180, 24, "", true)                           \
   X(Label132, Label, "Frame102", 12, 58, 100, 22, "Personality", true)                     \
@@ -150,6 +162,9 @@
   X(ComboBox19, ComboBox, "Frame102", 120, 88, 180, 24, "", true)                           \
   X(Label134, Label, "Frame102", 12, 122, 100, 22, "Room", true)                           \
   X(ComboBox43, ComboBox, "Frame102", 120, 120, 180, 24, "", true)                          \
+  X(CommandButton14, CommandButton, "Frame102", 12, 156, 140, 30, "Add Personality", true)  \
+  X(CommandButton15, CommandButton, "Frame102", 160, 156, 140, 30, "Delete NetID", true)    \
+  X(ListBox7, ListBox, "Frame102", 12, 196, 288, 240, "", true)                             \
   X(Frame103, Frame, "Page6", 670, 10, 310, 450, "Room Links", true)                        \
   X(Label135, Label, "Frame103", 12, 26, 100, 22, "Input", true)                           \
   X(ComboBox20, ComboBox, "Frame103", 120, 24, 170, 24, "", true)                           \
@@ -160,6 +175,15 @@
   X(CommandButton3, CommandButton, "Frame103", 12, 122, 140, 28, "Link Rooms", true)       \
   X(CommandButton16, CommandButton, "Frame103", 160, 122, 140, 28, "Delete Link", true)    \
   X(ListBox6, ListBox, "Frame103", 12, 158, 286, 280, "", true)                             \
+  /* Page9: input numbering */                                                              \
+  X(Label160, Label, "Page9", 12, 16, 120, 22, "Input", true)                               \
+  X(ComboBox110, ComboBox, "Page9", 140, 14, 160, 24, "", true)                             \
+  X(Label161, Label, "Page9", 12, 48, 120, 22, "Room Number", true)                         \
+  X(ComboBox111, ComboBox, "Page9", 140, 46, 160, 24, "", true)                             \
+  X(CommandButton110, CommandButton, "Page9", 320, 14, 150, 30, "Number Input", true)       \
+  X(CommandButton111, CommandButton, "Page9", 320, 50, 150, 30, "Delete Input", true)       \
+  X(CommandButton112, CommandButton, "Page9", 320, 86, 150, 30, "Clear All", true)          \
+  X(ListBox101, ListBox, "Page9", 12, 130, 300, 430, "", true)                              \
   /* Page8: room and group names */                                                         \
   X(Label145, Label, "Page8", 12, 16, 160, 22, "Enter Room Label", true)                   \
   X(TextBox103, TextBox, "Page8", 180, 14, 250, 24, "", true)                               \
@@ -171,9 +195,13 @@
   X(CommandButton35, CommandButton, "Page8", 300, 76, 130, 28, "Label Group", true)        \
   X(ListBox12, ListBox, "Page8", 12, 120, 300, 300, "", true)                               \
   X(ComboBox58, ComboBox, "Page8", 330, 120, 300, 24, "", true)                             \
-  X(ListBox13, ListBox, "Page8", 12, 440, 150, 180, "", true)                               \
-  X(ComboBox61, ComboBox, "Page8", 180, 440, 150, 24, "", true)                             \
-  X(CommandButton37, CommandButton, "Page8", 350, 438, 150, 28, "Store Room Name", true)   \
+  X(Label148, Label, "Page8", 12, 430, 150, 22, "Room", true)                               \
+  X(ListBox13, ListBox, "Page8", 12, 454, 150, 166, "", true)                               \
+  X(Label149, Label, "Page8", 180, 430, 150, 22, "Room Value", true)                        \
+  X(ComboBox61, ComboBox, "Page8", 180, 454, 150, 24, "", true)                             \
+  X(Label150, Label, "Page8", 350, 430, 200, 22, "Room Name", true)                         \
+  X(TextBox104, TextBox, "Page8", 350, 454, 200, 24, "", true)                              \
+  X(CommandButton37, CommandButton, "Page8", 350, 488, 150, 28, "Store Room Name", true)   \
   /* Page7: remote LED and button commands */                                               \
   X(Label138, Label, "Page7", 12, 16, 120, 22, "NetID", true)                              \
   X(ComboBox68, ComboBox, "Page7", 140, 14, 160, 24, "", true)                              \
@@ -182,4 +210,11 @@
   X(Label140, Label, "Page7", 12, 80, 120, 22, "Page", true)                               \
   X(ComboBox70, ComboBox, "Page7", 140, 78, 160, 24, "", true)                              \
   X(Label141, Label, "Page7", 12, 112, 120, 22, "LED / Button", true)                      \
-  X(ListBox17, ListBox, "Page7", 140, 110, 160, 160, "", true)
+  X(ListBox17, ListBox, "Page7", 140, 110, 160, 160, "", true)                             \
+  X(Frame104, Frame, "Page7", 330, 10, 260, 104, "Remote Mode", true)                      \
+  X(OptionButton12, OptionButton, "Frame104", 12, 22, 236, 22, "Remote To LED's", true)    \
+  X(OptionButton13, OptionButton, "Frame104", 12, 46, 236, 22, "Remote To Buttons", true)  \
+  X(OptionButton14, OptionButton, "Frame104", 12, 70, 236, 22, "Remote To Disabled", true) \
+  X(CommandButton38, CommandButton, "Page7", 330, 126, 150, 30, "Add Command", true)       \
+  X(Label70, Label, "Page7", 12, 290, 400, 22, "", true)                                   \
+  X(ListBox19, ListBox, "Page7", 12, 314, 400, 320, "", true)

@@ -1,1 +1,68 @@
-// Filled in by the editor tests.
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "editors/naming/naming_page.h"
+#include "support/desk.h"
+
+namespace pellam::editors::naming {
+namespace {
+
+using testing::Desk;
+using Lines = std::vector<std::string>;
+
+TEST(SetLabelTest, ANumberIsLabelledOnce) {
+  Desk desk;
+  job::RoomGroupNames names;
+  ui::Dialogs& dialogs = desk.session().dialogs();
+
+  EXPECT_EQ(SetRoomLabel(names, dialogs, "Lobby", 7), 0);
+  EXPECT_EQ(SetRoomLabel(names, dialogs, "Hall", 7), -1);
+  EXPECT_EQ(names.names[7].RoomLabel, "Lobby");
+  EXPECT_EQ(SetGroupLabel(names, dialogs, "Stage", 7), 0) << "rooms and groups are numbered apart";
+  EXPECT_EQ(SetGroupLabel(names, dialogs, "Pit", 7), -1);
+  EXPECT_EQ(names.names[7].GroupLabel, "Stage");
+  EXPECT_EQ(desk.shown(), (Lines{"msgbox \"Dulpicate Room Number\" OK", "msgbox \"Dulpicate Group Number\" OK"}));
+
+  EXPECT_EQ(SetGroupLabel(names, dialogs, "Pit", -1), -1);
+  EXPECT_EQ(desk.shown(), Lines{"msgbox \"Group Not Selected\" OK"});
+}
+
+TEST(SetLabelTest, NumbersBeyond255AreAProgrammingError) {
+  Desk desk;
+  job::RoomGroupNames names;
+  ui::Dialogs& dialogs = desk.session().dialogs();
+  EXPECT_THROW(SetRoomLabel(names, dialogs, "Lobby", 256), std::runtime_error);
+  EXPECT_THROW(SetRoomLabel(names, dialogs, "Lobby", -1), std::runtime_error);
+  EXPECT_THROW(SetGroupLabel(names, dialogs, "Stage", 256), std::runtime_error);
+  EXPECT_THROW(SetRoomName(names, "East", 256, 1), std::runtime_error);
+  EXPECT_NO_THROW(SetRoomName(names, "East", 255, 1));
+  EXPECT_EQ(desk.shown(), Lines{});
+}
+
+// Labelling through the page is walked through in tests/scripts/naming_page; a room name
+// shows nowhere on the form, so it is checked here.
+TEST(NamingPageTest, StoringARoomNameNeverRefuses) {
+  Desk desk;
+  desk.startUp();
+  ui::UserForm1& f = desk.form();
+  const job::RoomGroupName& room9 = desk.job().roomGroupNames.names[9];
+  f.TextBox104.setText("East Wing");
+  f.ListBox13.select(9);
+  f.ComboBox61.select(3);
+  f.CommandButton37.click();
+  EXPECT_EQ(room9.RoomName, "East Wing");
+  EXPECT_EQ(room9.RoomValue, 3);
+
+  f.TextBox104.setText("West Wing");
+  f.ComboBox61.select(0);
+  f.CommandButton37.click();
+  EXPECT_EQ(room9.RoomName, "West Wing") << "a name, unlike a label, is replaced";
+  EXPECT_EQ(room9.RoomValue, 0);
+  EXPECT_EQ(desk.shown(), Lines{});
+}
+
+}  // namespace
+}  // namespace pellam::editors::naming

@@ -96,6 +96,7 @@ void buildJob(Desk& desk, int mode) {
       }
       // Tables filled by hand are listed as an opened job lists them: the report prints the list.
       desk.session().roomLinkPage.ListDecoded(mode);
+      desk.session().stationLinkPage.ListDecoded();
   }
 }
 

@@ -1,20 +1,37 @@
 #pragma once
 
+#include <string>
+
 #include "job/tables.h"
 #include "ui/dialogs.h"
 #include "ui/user_form.h"
 
 namespace pellam::editors::naming {
 
+// Each returns 0 when the label was stored and -1, after telling why, when it was refused: a
+// number is labelled once. A negative group is no group chosen. A number outside 0..255 throws.
+int SetRoomLabel(job::RoomGroupNames& names, ui::Dialogs& dialogs, const std::string& label, int room);
+int SetGroupLabel(job::RoomGroupNames& names, ui::Dialogs& dialogs, const std::string& label, int group);
+// Never refuses; a room outside 0..255 throws.
+void SetRoomName(job::RoomGroupNames& names, const std::string& name, int room, int value);
+
 // Presenter of Page8: labels for rooms and groups, each number labelled once.
 class NamingPage {
  public:
   NamingPage(ui::UserForm1& form, job::RoomGroupNames& names, ui::Dialogs& dialogs);
+  NamingPage(const NamingPage&) = delete;
+  NamingPage& operator=(const NamingPage&) = delete;
 
   // The page's number lists, filled at start-up with the other choice lists.
   void fillLists();
 
  private:
+  void ListRoomLabel(int room, const std::string& numberText);
+  void ListGroupLabel(int group, const std::string& numberText);
+  void labelRoom();
+  void labelGroup();
+  void storeRoomName();
+
   ui::UserForm1& form_;
   job::RoomGroupNames& names_;
   ui::Dialogs& dialogs_;

@@ -28,6 +28,28 @@ std::string rebuiltActionText(const job::PresetRecord& r, const std::string& pre
   }
 }
 
+namespace {
+constexpr int kButtonRelease = 16;
+const std::string kButtonReleaseText = "  Button : Release";
+bool isButtonKind(int kind) { return kind == 7 || kind == 9; }
+}  // namespace
+
+std::string chosenActionText(const job::PresetRecord& r, const std::string& previous) {
+  if (isButtonKind(r.StationKind) && r.ActionNumber == kButtonRelease) return kButtonReleaseText;
+  return rebuiltActionText(r, previous);
+}
+
+std::string addedActionText(job::PresetEmulationTable& table, int netIdSlot, int inputSlot) {
+  const job::PresetRecord& r = table.at(netIdSlot, inputSlot);
+  switch (r.StationKind) {
+    case 7: return chosenActionText(r, "");
+    case 9:
+      if (table.at(netIdSlot + 1, inputSlot).ActionNumber == kButtonRelease) return kButtonReleaseText;
+      return "  Button :" + std::to_string(table.at(netIdSlot, inputSlot + 1).ActionNumber);
+    default: return rebuiltActionText(r, "");
+  }
+}
+
 std::string entryLine(std::string_view kindName, const job::PresetRecord& r, const std::string& actionText) {
   return std::string(kindName) + "  NetId: " + std::to_string(r.NetIdPlusOne) + "  Personality  " +
          std::to_string(r.Personality) + actionText;

@@ -12,6 +12,13 @@ inline std::string allLine(const job::RoomCombineRecord& r) {
          ", Channel:" + std::to_string(r.CombineChannel);
 }
 
+// The add button builds its line from the three choices' texts; with the start-up lists it
+// reads as the "all" line.
+inline std::string addedLine(const std::string& roomText, const std::string& groupText,
+                             const std::string& channelText) {
+  return roomText + ",  " + groupText + ", " + "Channel:" + channelText;
+}
+
 inline std::string roomLine(const job::RoomCombineRecord& r) {
   return "Room:" + std::to_string(r.CombineRoom) + ", Group: " + std::to_string(r.CombineGroup) +
          ",  Channel:" + std::to_string(r.CombineChannel);

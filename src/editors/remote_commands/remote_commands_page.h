@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+
+#include "job/tables.h"
+#include "ui/dialogs.h"
+#include "ui/user_form.h"
+
+namespace pellam::editors::remote_commands {
+
+// Presenter of Page7: per input, the stations whose LED or button the input drives.
+class RemoteCommandsPage {
+ public:
+  RemoteCommandsPage(ui::UserForm1& form, job::RemoteCommandTable& table, ui::Dialogs& dialogs);
+  RemoteCommandsPage(const RemoteCommandsPage&) = delete;
+  RemoteCommandsPage& operator=(const RemoteCommandsPage&) = delete;
+
+  // A new job: no entry, no line, no remote mode chosen.
+  void Clear();
+  // When the form is loaded: the option of the remote mode in force and what it enables.
+  void PrepareControls();
+  // After an image is opened: the remote mode its blocks were written in, and the first
+  // input with entries (none, without a message, when no input has any).
+  void ListDecoded();
+
+ private:
+  void chooseMode(int mode);
+  void add();
+  bool refused(bool condition, const char* text);
+  template <typename Check>
+  bool refusedUnderTrap(const char* trapText, Check check);
+  int entryInput(int chosenInput) const;
+  void removeChosenLine();
+  void relist(int input);
+
+  ui::UserForm1& form_;
+  job::RemoteCommandTable& table_;
+  ui::Dialogs& dialogs_;
+};
+
+}  // namespace pellam::editors::remote_commands

@@ -12,5 +12,5 @@ ensure_packages() {
   DEBIAN_FRONTEND=noninteractive "${sudo[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}"
 }
 
-BUILD_PACKAGES=(cmake ninja-build g++ make)
-TEST_PACKAGES=(clang libgtest-dev libbenchmark-dev g++-mingw-w64-x86-64)
+BUILD_PACKAGES=(cmake ninja-build g++ make libcurl4-openssl-dev)
+TEST_PACKAGES=(clang libgtest-dev libbenchmark-dev g++-mingw-w64-x86-64 python3-pyftpdlib qt6-base-dev xvfb xauth)

@@ -25,6 +25,8 @@ constexpr int kRefused = 1;
 constexpr std::string_view kUsage =
     "usage: pellam run SCRIPT      run a form script (\"-\" reads standard input)\n"
     "       pellam show FILE.zpd   print a saved job: its board setup and its tables\n"
+    "       pellam upload FILE.zpd --netid N --to ADDRESS[:PORT]\n"
+    "                              send a saved job to station N through the network controller\n"
     "       pellam --help          show this help\n"
     "       pellam --version       show the version\n"
     "\n"
@@ -84,6 +86,47 @@ int showJob(const std::string& path) {
   return 0;
 }
 
+// The upload frame's procedure, from the command line: the same checks, files, log and
+// messages; the exit status says whether the controller took the file.
+int uploadJob(int argc, char** argv) {
+  namespace component = pellam::component;
+  std::string file;
+  std::string netId;
+  std::string address;
+  for (int i = 2; i < argc; ++i) {
+    const std::string_view arg = argv[i];
+    if (arg == "--netid" && i + 1 < argc) {
+      netId = argv[++i];
+    } else if (arg == "--to" && i + 1 < argc) {
+      address = argv[++i];
+    } else if (file.empty() && !arg.starts_with("--")) {
+      file = arg;
+    } else {
+      std::cerr << "pellam: cannot understand " << arg << "\n" << kUsage;
+      return kUsageError;
+    }
+  }
+  const bool netIdFine = !netId.empty() && netId.size() <= 3 &&
+                         netId.find_first_not_of("0123456789") == std::string::npos && std::stoi(netId) >= 1 &&
+                         std::stoi(netId) <= 127;
+  if (file.empty() || address.empty() || !netIdFine) {
+    std::cerr << "pellam: upload needs FILE.zpd, --netid 1..127 and --to ADDRESS\n";
+    return kUsageError;
+  }
+  component::UnattendedDialogs dialogs(std::cout);
+  component::NoViewer shell;
+  component::SystemClock clock;
+  auto session = std::make_unique<component::Session>(dialogs, shell, clock);
+  component::Initailize_Pellam_Variables_And_Form(*session);
+  pellam::ui::UserForm1& f = session->form;
+  session->currentJobFile = file;
+  f.ComboBox50.select(std::stoi(netId));
+  f.TextBox7.setText(address);
+  f.CommandButton27.click();
+  if (!f.Label62.caption().empty()) std::cout << "log: " << f.Label62.caption() << "\n";
+  return session->uploadPage.lastCompleted ? 0 : kRefused;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -98,6 +141,7 @@ int main(int argc, char** argv) {
   }
   if (command == "run" && argc == 3) return runScript(argv[2]);
   if (command == "show" && argc == 3) return showJob(argv[2]);
+  if (command == "upload") return uploadJob(argc, argv);
   std::cerr << (command.empty() ? "pellam: no command given\n" : "pellam: cannot understand the command line\n")
             << kUsage;
   return kUsageError;

@@ -39,18 +39,19 @@ void FilesPage::ListFiles() {
   if (f.ListBox11.count() == 0) s_.dialogs().msgBox("No Files Found", ui::Buttons::OK);
 }
 
-std::string FilesPage::chosenPath() const {
+std::string FilesPage::chosenImage() const {
+  if (s_.form.ListBox11.listIndex() < 0 || listedFolder_.empty()) return {};
   std::string folder = listedFolder_;
   if (!files::isSeparator(folder.back())) folder += '/';
   return folder + s_.form.ListBox11.text();
 }
 
 void FilesPage::OpenChosen() {
-  if (s_.form.ListBox11.listIndex() < 0) {
+  const std::string path = chosenImage();
+  if (path.empty()) {
     s_.dialogs().msgBox("No File Selected", ui::Buttons::OK);
     return;
   }
-  const std::string path = chosenPath();
   if (files::CheckFileType(path, s_.image, s_.dialogs()) == 1) OpenJobSequence(s_, path);
 }
 

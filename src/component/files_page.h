@@ -15,9 +15,10 @@ class FilesPage {
   void Save();
   void ListFiles();
   void OpenChosen();
+  // The full path of the image chosen in the list, empty when none is.
+  std::string chosenImage() const;
 
  private:
-  std::string chosenPath() const;
   Session& s_;
   // The folder whose images the list shows: the typed folder may have changed since.
   std::string listedFolder_;

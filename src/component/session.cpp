@@ -21,7 +21,8 @@ Session::Session(ui::Dialogs& dialogs, ui::Shell& shell, ui::Clock& clock)
       namingPage(form, job.roomGroupNames, platform_),
       remoteCommandsPage(form, job.remoteCommands, platform_),
       inputNumberingPage(form, job.inputNumbering, platform_),
-      filesPage(*this) {
+      filesPage(*this),
+      uploadPage(*this) {
   navigation.setBoardPage(boardPage);
 }
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "component/files_page.h"
+#include "component/upload_page.h"
 #include "component/page_navigation.h"
 #include "editors/channel_emulation/channel_emulation_page.h"
 #include "editors/input_numbering/input_numbering_page.h"
@@ -92,6 +93,7 @@ class Session {
   editors::remote_commands::RemoteCommandsPage remoteCommandsPage;
   editors::input_numbering::InputNumberingPage inputNumberingPage;
   FilesPage filesPage;
+  UploadPage uploadPage;
 };
 
 }  // namespace pellam::component

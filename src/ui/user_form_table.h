@@ -65,6 +65,12 @@
   X(Frame23, Frame, "Page1", 510, 440, 470, 220, "Upload To RQC", true)                     \
   X(Label106, Label, "Frame23", 12, 26, 160, 22, "Target Station NetID", true)             \
   X(ComboBox50, ComboBox, "Frame23", 180, 24, 120, 24, "", true)                            \
+  X(Label170, Label, "Frame23", 12, 58, 160, 22, "RQC IP Address", true)                   \
+  X(TextBox7, TextBox, "Frame23", 180, 56, 270, 24, "", true)                               \
+  X(CommandButton27, CommandButton, "Frame23", 12, 92, 120, 30, "Up Load", true)           \
+  X(Label60, Label, "Frame23", 144, 96, 306, 22, "Click On File Name To UpLoad", true)      \
+  X(Label171, Label, "Frame23", 12, 134, 160, 22, "Log File", true)                        \
+  X(Label62, Label, "Frame23", 12, 158, 438, 44, "", true)                                  \
   /* Page2: channel emulation */                                                            \
   X(Label107, Label, "Page2", 12, 16, 120, 22, "Input", true)                              \
   X(ComboBox26, ComboBox, "Page2", 140, 14, 160, 24, "", true)                              \

@@ -1,0 +1,96 @@
+#include "component/upload_page.h"
+
+#include <chrono>
+#include <filesystem>
+#include <system_error>
+
+#include "component/session.h"
+#include "files/controller_settings.h"
+#include "files/job_paths.h"
+#include "files/upload.h"
+#include "ui/trap.h"
+
+namespace pellam::component {
+
+namespace {
+constexpr auto kBlink = std::chrono::seconds(1);
+}
+
+UploadPage::UploadPage(Session& session)
+    : settingsPath(files::defaultControllerSettingsPath()), transport(files::makeSystemFtpTransport()), s_(session) {
+  s_.form.CommandButton27.onClick = [this] { Upload(); };
+}
+
+UploadPage::~UploadPage() = default;
+
+// The file clicked in the job list, or else the job last saved or opened.
+std::string UploadPage::imageToSend() const {
+  const std::string chosen = s_.filesPage.chosenImage();
+  return chosen.empty() ? s_.currentJobFile : chosen;
+}
+
+void UploadPage::Upload() {
+  if (busy_) return;
+  ui::UserForm1& f = s_.form;
+  ui::Dialogs& d = s_.dialogs();
+  lastCompleted = false;
+  const int netId = f.ComboBox50.listIndex();
+  if (netId < 1) {
+    d.msgBox("Target Station NetID not Selected", ui::Buttons::OK);
+    return;
+  }
+  // Everything a person typed is checked before a file is written.
+  files::UploadRequest request;
+  request.netId = netId;
+  request.imagePath = imageToSend();
+  std::error_code ec;
+  if (request.imagePath.empty()) {
+    d.msgBox("No File Selected", ui::Buttons::OK);
+    return;
+  }
+  if (!std::filesystem::is_regular_file(files::fsPath(request.imagePath), ec)) {
+    d.msgBox("Cannot Open File: " + request.imagePath, ui::Buttons::OK);
+    return;
+  }
+  request.addressText = f.TextBox7.text();
+  if (request.addressText.empty()) {
+    d.msgBox("RQC IP Address Not Entered", ui::Buttons::OK);
+    return;
+  }
+  const auto address = files::parseControllerAddress(request.addressText);
+  if (!address) {
+    d.msgBox("Not An IP Address Or Host Name: " + request.addressText, ui::Buttons::OK);
+    return;
+  }
+  request.address = *address;
+  const files::SettingsRead settings = files::readControllerSettings(settingsPath);
+  if (!settings.problem.empty()) {
+    d.msgBox("Controller Settings Not Understood: " + settings.problem, ui::Buttons::OK);
+    return;
+  }
+  request.settings = settings.settings;
+
+  busy_ = true;
+  f.Label60.setCaption("Starting Up Load Please Wait");
+  f.Label60.setVisible(true);
+  f.CommandButton27.setVisible(false);
+  auto lastBlink = std::chrono::steady_clock::now();
+  const files::TransferTick tick = [&](const files::TransferProgress&) {
+    if (const auto now = std::chrono::steady_clock::now(); now - lastBlink >= kBlink) {
+      f.Label60.setVisible(!f.Label60.visible());
+      lastBlink = now;
+    }
+    if (keepResponsive) keepResponsive();
+  };
+  ui::trap(d, "RQC Connection Time Out", [&] {
+    const files::UploadResult result = files::UploadImage(request, *transport, d, s_.clock(), tick);
+    lastCompleted = result.completed;
+    if (result.logged) f.Label62.setCaption(result.logPath);
+  });
+  f.Label60.setCaption("Click On File Name To UpLoad");
+  f.Label60.setVisible(true);
+  f.CommandButton27.setVisible(true);
+  busy_ = false;
+}
+
+}  // namespace pellam::component

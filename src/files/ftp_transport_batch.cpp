@@ -1,0 +1,43 @@
+// Windows: the batch file runs the system's ftp client, whose console output lands in r.txt.
+#include <windows.h>
+
+#include <memory>
+#include <string>
+
+#include "files/ftp_transport.h"
+
+namespace pellam::files {
+
+namespace {
+
+class BatchTransport final : public FtpTransport {
+ public:
+  void run(const TransferJob& job, const TransferTick& tick) override {
+    std::wstring command = L"cmd.exe /c FTPdata.bat";
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    startup.dwFlags = STARTF_USESHOWWINDOW;
+    startup.wShowWindow = SW_SHOWMINNOACTIVE;
+    PROCESS_INFORMATION process{};
+    const std::wstring folder = job.folder.wstring();
+    if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(), &startup,
+                        &process)) {
+      throw std::runtime_error("the ftp client could not be started");
+    }
+    CloseHandle(process.hThread);
+    const ULONGLONG deadline = GetTickCount64() + static_cast<ULONGLONG>(job.timeout.count()) * 1000;
+    DWORD state = WAIT_TIMEOUT;
+    while ((state = WaitForSingleObject(process.hProcess, 100)) == WAIT_TIMEOUT && GetTickCount64() < deadline) {
+      if (tick) tick({});
+    }
+    if (state == WAIT_TIMEOUT) TerminateProcess(process.hProcess, 1);
+    CloseHandle(process.hProcess);
+    if (state == WAIT_TIMEOUT) throw TransferTimedOut();
+  }
+};
+
+}  // namespace
+
+std::unique_ptr<FtpTransport> makeSystemFtpTransport() { return std::make_unique<BatchTransport>(); }
+
+}  // namespace pellam::files

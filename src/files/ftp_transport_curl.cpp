@@ -1,0 +1,119 @@
+// The controller's FTP service through libcurl. The client's console output is what the
+// upload reads back, so the controller's replies are captured as that client shows them, and
+// a host that cannot be found or reached reads as it would there.
+#include <curl/curl.h>
+
+#include <cstdio>
+#include <fstream>
+#include <memory>
+#include <mutex>
+
+#include "files/ftp_transport.h"
+#include "files/upload.h"
+
+namespace pellam::files {
+
+namespace {
+
+struct Transfer {
+  std::string replies;
+  std::ifstream file;
+  TransferProgress progress;
+};
+
+int onDebug(CURL*, curl_infotype type, char* data, size_t size, void* user) {
+  if (type == CURLINFO_HEADER_IN) static_cast<Transfer*>(user)->replies.append(data, size);
+  return 0;
+}
+
+size_t onRead(char* buffer, size_t size, size_t count, void* user) {
+  auto& t = *static_cast<Transfer*>(user);
+  t.file.read(buffer, static_cast<std::streamsize>(size * count));
+  return static_cast<size_t>(t.file.gcount());
+}
+
+int onProgress(void* user, curl_off_t, curl_off_t, curl_off_t ultotal, curl_off_t ulnow) {
+  auto& p = static_cast<Transfer*>(user)->progress;
+  p.sent = ulnow;
+  p.total = ultotal;
+  return 0;
+}
+
+// What the command-line client prints when it never reached the controller.
+std::string clientNote(CURLcode code, const std::string& host) {
+  switch (code) {
+    case CURLE_COULDNT_RESOLVE_HOST: return "Unknown host " + host + ".\r\n";
+    case CURLE_COULDNT_CONNECT:
+    case CURLE_GOT_NOTHING:
+    case CURLE_SEND_ERROR:
+    case CURLE_RECV_ERROR:
+    case CURLE_FTP_WEIRD_SERVER_REPLY: return "Not connected.\r\n";
+    default: return {};
+  }
+}
+
+class CurlTransport final : public FtpTransport {
+ public:
+  void run(const TransferJob& job, const TransferTick& tick) override {
+    static std::once_flag global;
+    std::call_once(global, [] { curl_global_init(CURL_GLOBAL_DEFAULT); });
+
+    Transfer t;
+    t.file.open(job.folder / job.fileName, std::ios::binary);
+    if (!t.file) throw std::runtime_error("cannot read " + job.fileName);
+    t.file.seekg(0, std::ios::end);
+    const auto size = static_cast<curl_off_t>(t.file.tellg());
+    t.file.seekg(0);
+
+    std::unique_ptr<CURL, decltype(&curl_easy_cleanup)> easy(curl_easy_init(), curl_easy_cleanup);
+    std::unique_ptr<CURLM, decltype(&curl_multi_cleanup)> multi(curl_multi_init(), curl_multi_cleanup);
+    if (!easy || !multi) throw std::runtime_error("libcurl could not start");
+    const std::string url =
+        "ftp://" + job.address.urlHost() + ":" + std::to_string(job.address.port) + "/" + job.remoteName;
+    const long seconds = static_cast<long>(job.timeout.count());
+    CURL* e = easy.get();
+    curl_easy_setopt(e, CURLOPT_URL, url.c_str());
+    curl_easy_setopt(e, CURLOPT_USERNAME, job.login.c_str());
+    curl_easy_setopt(e, CURLOPT_PASSWORD, "");
+    curl_easy_setopt(e, CURLOPT_UPLOAD, 1L);
+    curl_easy_setopt(e, CURLOPT_INFILESIZE_LARGE, size);
+    curl_easy_setopt(e, CURLOPT_READFUNCTION, onRead);
+    curl_easy_setopt(e, CURLOPT_READDATA, &t);
+    curl_easy_setopt(e, CURLOPT_VERBOSE, 1L);
+    curl_easy_setopt(e, CURLOPT_DEBUGFUNCTION, onDebug);
+    curl_easy_setopt(e, CURLOPT_DEBUGDATA, &t);
+    curl_easy_setopt(e, CURLOPT_NOPROGRESS, 0L);
+    curl_easy_setopt(e, CURLOPT_XFERINFOFUNCTION, onProgress);
+    curl_easy_setopt(e, CURLOPT_XFERINFODATA, &t);
+    curl_easy_setopt(e, CURLOPT_CONNECTTIMEOUT, seconds);
+    curl_easy_setopt(e, CURLOPT_SERVER_RESPONSE_TIMEOUT, seconds);
+    // A controller that stops sending in the middle is given up as well.
+    curl_easy_setopt(e, CURLOPT_LOW_SPEED_LIMIT, 1L);
+    curl_easy_setopt(e, CURLOPT_LOW_SPEED_TIME, seconds);
+    curl_easy_setopt(e, CURLOPT_NOSIGNAL, 1L);
+    curl_multi_add_handle(multi.get(), e);
+
+    int running = 1;
+    while (running) {
+      if (curl_multi_perform(multi.get(), &running) != CURLM_OK) break;
+      if (running) curl_multi_poll(multi.get(), nullptr, 0, 100, nullptr);
+      if (tick) tick(t.progress);
+    }
+    CURLcode code = CURLE_OK;
+    int left = 0;
+    while (CURLMsg* msg = curl_multi_info_read(multi.get(), &left)) {
+      if (msg->msg == CURLMSG_DONE) code = msg->data.result;
+    }
+    curl_multi_remove_handle(multi.get(), e);
+    if (code == CURLE_OPERATION_TIMEDOUT) throw TransferTimedOut();
+
+    std::ofstream out(job.folder / kCapturedName, std::ios::binary | std::ios::trunc);
+    out << t.replies << clientNote(code, job.address.host);
+  }
+};
+
+}  // namespace
+
+std::unique_ptr<FtpTransport> makeSystemFtpTransport() { return std::make_unique<CurlTransport>(); }
+
+}  // namespace pellam::files

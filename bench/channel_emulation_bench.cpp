@@ -5,24 +5,18 @@
 #include <memory>
 #include <sstream>
 
-#include "component/platform.h"
-#include "component/session.h"
-#include "component/start_up.h"
+#include "component/unattended_session.h"
 
 namespace {
 
 using namespace pellam::component;
 
 void ChannelEmulationFullJobByHand(benchmark::State& state) {
-  std::ostringstream log;
-  UnattendedDialogs dialogs(log);
-  NoViewer shell;
-  SystemClock clock;
   for (auto _ : state) {
     state.PauseTiming();
-    auto session = std::make_unique<Session>(dialogs, shell, clock);
-    Initailize_Pellam_Variables_And_Form(*session);
-    pellam::ui::UserForm1& f = session->form;
+    std::ostringstream log;
+    auto session = std::make_unique<UnattendedSession>(log);
+    pellam::ui::UserForm1& f = (*session)->form;
     state.ResumeTiming();
     for (int input = 1; input <= 16; ++input) {
       f.ComboBox26.select(input);

@@ -5,9 +5,7 @@
 #include <memory>
 #include <sstream>
 
-#include "component/platform.h"
-#include "component/session.h"
-#include "component/start_up.h"
+#include "component/unattended_session.h"
 
 namespace {
 
@@ -22,15 +20,11 @@ void confirmRoomCombineBoard(pellam::ui::UserForm1& f) {
 }
 
 void RoomCombineAddEveryChannelThenViewAll(benchmark::State& state) {
-  std::ostringstream log;
-  UnattendedDialogs dialogs(log);
-  NoViewer shell;
-  SystemClock clock;
   for (auto _ : state) {
     state.PauseTiming();
-    auto session = std::make_unique<Session>(dialogs, shell, clock);
-    Initailize_Pellam_Variables_And_Form(*session);
-    pellam::ui::UserForm1& f = session->form;
+    std::ostringstream log;
+    auto session = std::make_unique<UnattendedSession>(log);
+    pellam::ui::UserForm1& f = (*session)->form;
     confirmRoomCombineBoard(f);
     state.ResumeTiming();
     for (int c = 1; c <= 2048; ++c) {

@@ -9,10 +9,8 @@
 
 #include "component/job_files.h"
 #include "component/job_listing.h"
-#include "component/platform.h"
 #include "component/script/form_script.h"
-#include "component/session.h"
-#include "component/start_up.h"
+#include "component/unattended_session.h"
 #include "files/job_paths.h"
 #include "files/open_job.h"
 #include "image/memory_map.h"
@@ -76,11 +74,7 @@ int showJob(const std::string& path) {
               << (type < 0 ? std::string("missing") : std::to_string(type)) << ", not 11)\n";
     return kRefused;
   }
-  component::UnattendedDialogs dialogs(std::cerr);
-  component::NoViewer shell;
-  component::SystemClock clock;
-  auto session = std::make_unique<component::Session>(dialogs, shell, clock);
-  component::Initailize_Pellam_Variables_And_Form(*session);
+  component::UnattendedSession session(std::cerr);
   if (!component::OpenJobSequence(*session, path)) return kRefused;
   std::cout << "Job: " << path << "\n" << component::listJob(*session);
   return 0;
@@ -113,11 +107,7 @@ int uploadJob(int argc, char** argv) {
     std::cerr << "pellam: upload needs FILE.zpd, --netid 1..127 and --to ADDRESS\n";
     return kUsageError;
   }
-  component::UnattendedDialogs dialogs(std::cout);
-  component::NoViewer shell;
-  component::SystemClock clock;
-  auto session = std::make_unique<component::Session>(dialogs, shell, clock);
-  component::Initailize_Pellam_Variables_And_Form(*session);
+  component::UnattendedSession session(std::cout);
   pellam::ui::UserForm1& f = session->form;
   session->currentJobFile = file;
   f.ComboBox50.select(std::stoi(netId));

@@ -1,0 +1,111 @@
+// How soon a person sees the form, and how long a maximal job takes to open in it.
+//   pellam_qt_bench paint [JOB.zpd]  prints the wall clock (ns) of the window's first paint,
+//                                    every list filled; first_paint.sh subtracts the start.
+//   pellam_qt_bench open [N]         saves a maximal room-combine and station-link job and
+//                                    prints the median of N opens, drawn, in milliseconds.
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <filesystem>
+#include <vector>
+
+#include "component/job_files.h"
+#include "form_view.h"
+#include "main_window.h"
+
+namespace {
+
+using namespace pellam;
+
+// The longest lists an opened job can give: every room-combine channel, every station.
+void fillMaximalJob(component::Session& s, int mode) {
+  ui::UserForm1& f = s.form;
+  f.ComboBox48.select(2);
+  f.ComboBox1.select(mode);
+  f.ComboBox2.select(1);
+  f.ComboBox6.select(1);
+  f.CommandButton4.click();
+  job::Job& job = s.job;
+  for (std::int16_t i = 0; i < 17; ++i)
+    job.roomLink.records[static_cast<std::size_t>(i)] = {static_cast<std::int16_t>(i + 1), 1, 2, i};
+  for (std::int16_t n = 1; n <= 127; ++n) {
+    job.stationLink.records[static_cast<std::size_t>(n)] = {n, 9, static_cast<std::int16_t>(n % 255 + 1), n};
+    job.stationPersonality.records[static_cast<std::size_t>(n - 1)] = {n, 9, 4, n, 1};
+  }
+  for (std::uint16_t c = 1; c <= 2048; ++c)
+    job.roomCombine.records[c] = {c, static_cast<std::uint16_t>(c % 255 + 1), static_cast<std::uint16_t>(c / 9 % 255 + 1), c};
+}
+
+class FirstPaint final : public QObject {
+ public:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Paint && !done_) {
+      done_ = true;
+      const auto now = std::chrono::system_clock::now().time_since_epoch();
+      std::printf("%lld\n", static_cast<long long>(std::chrono::duration_cast<std::chrono::nanoseconds>(now).count()));
+      QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+    }
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  bool done_ = false;
+};
+
+int paint(const QString& job) {
+  qt::MainWindow window;
+  FirstPaint watch;
+  window.start(job);
+  window.form().installEventFilter(&watch);
+  window.show();
+  return QApplication::exec();
+}
+
+int open(int runs) {
+  namespace fs = std::filesystem;
+  const fs::path folder = fs::temp_directory_path() / ("pellam-qt-bench-" + std::to_string(QCoreApplication::applicationPid()));
+  fs::create_directories(folder);
+  qt::MainWindow window;
+  window.show();
+  window.start({});
+  // A question would stop the measurement; say what it was and answer it.
+  QTimer answer;
+  QObject::connect(&answer, &QTimer::timeout, [] {
+    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+      std::fprintf(stderr, "message: %s\n", box->text().toLocal8Bit().constData());
+      box->defaultButton() ? box->defaultButton()->click() : box->buttons().front()->click();
+    }
+  });
+  answer.start(50);
+  for (int mode : {3, 5}) {
+    fillMaximalJob(window.session(), mode);
+    const std::string zpd =
+        component::SaveJobSequence(window.session(), (folder / "Max.txt").string(), "Directory Not Found");
+    std::vector<double> ms;
+    for (int i = 0; i < runs; ++i) {
+      QElapsedTimer timer;
+      timer.start();
+      window.openJob(QString::fromStdString(zpd));
+      window.repaint();
+      ms.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+    }
+    std::sort(ms.begin(), ms.end());
+    std::printf("open maximal mode-%d job: median %.1f ms of %d\n", mode, ms[ms.size() / 2], runs);
+  }
+  fs::remove_all(folder);
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QApplication app(argc, argv);
+  const QStringList args = QApplication::arguments();
+  if (args.size() > 1 && args[1] == "open") return open(args.size() > 2 ? args[2].toInt() : 21);
+  return paint(args.size() > 2 ? args[2] : QString());
+}

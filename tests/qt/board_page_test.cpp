@@ -1,0 +1,79 @@
+#include <QComboBox>
+#include <QListWidget>
+#include <QRadioButton>
+#include <gmock/gmock.h>
+
+#include "form_driver.h"
+
+namespace pellam::qt::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+TEST(BoardPageWidgets, ConfirmingAModeShowsItsTabsAndTheSummary) {
+  FormDriver app;
+  EXPECT_TRUE(app.tabShown(0));
+  EXPECT_FALSE(app.tabShown(3));
+  app.confirmBoard(3);
+  EXPECT_THAT(app.boxes.seen, IsEmpty());
+  EXPECT_EQ(app.shownText("ComboBox1"), "Room Combine");
+  EXPECT_EQ(app.form().ComboBox1.listIndex(), 3);
+  // Room combine brings its own page and the names page, nothing else.
+  for (int page = 1; page < 9; ++page) {
+    SCOPED_TRACE(page);
+    EXPECT_EQ(app.tabShown(page), page == 3 || page == 7);
+  }
+  const QString summary = app.shownText("TextBox5");
+  EXPECT_FALSE(summary.isEmpty());
+  EXPECT_EQ(summary, QString::fromStdString(app.form().TextBox5.text()).replace("\r\n", "\n"));
+}
+
+TEST(BoardPageWidgets, OptionButtonsFollowTheFormNotQtsGrouping) {
+  FormDriver app;
+  app.confirmBoard(2);
+  app.click("OptionButton4");
+  EXPECT_TRUE(app.as<QRadioButton>("OptionButton4")->isChecked());
+  EXPECT_TRUE(app.widget("ComboBox55")->isVisible());
+  app.click("OptionButton6");
+  EXPECT_FALSE(app.as<QRadioButton>("OptionButton4")->isChecked());
+  EXPECT_TRUE(app.as<QRadioButton>("OptionButton6")->isChecked());
+  EXPECT_EQ(app.form().OptionButton6.value(), true);
+}
+
+TEST(BoardPageWidgets, RefusalsComeAsRealMessageBoxes) {
+  FormDriver app;
+  // A slave without its id is refused when the board setup is confirmed.
+  app.choose("ComboBox48", 2);
+  app.choose("ComboBox1", 1);
+  app.choose("ComboBox2", 2);
+  app.choose("ComboBox6", 1);
+  EXPECT_TRUE(app.widget("ComboBox25")->isVisible());
+  app.click("CommandButton4");
+  ASSERT_EQ(app.boxes.seen.size(), 1u);
+  EXPECT_EQ(app.boxes.seen[0], "msgbox \"Slave ID not Selected\" -> OK");
+  EXPECT_FALSE(app.tabShown(1));
+}
+
+TEST(FilesFrameWidgets, SavesListsAndOpensAJob) {
+  FormDriver app;
+  app.confirmBoard(2);
+  app.type("TextBox101", QString::fromStdString((app.folder / "Lobby.txt").string()));
+  app.click("CommandButton26");
+  EXPECT_TRUE(std::filesystem::exists(app.folder / "Lobby.zpd"));
+  app.type("TextBox102", QString::fromStdString(app.folder.string()));
+  app.click("CommandButton101");
+  EXPECT_THAT(app.lines("ListBox11"), ElementsAre("Lobby.zpd"));
+
+  // Another mode, then the saved job back from the list.
+  app.choose("ComboBox1", 4);
+  app.click("CommandButton4");
+  app.clickLine("ListBox11", 0);
+  app.click("CommandButton102");
+  EXPECT_EQ(app.shownText("ComboBox1"), "Room Link ");
+  EXPECT_TRUE(app.tabShown(2));
+  EXPECT_FALSE(app.tabShown(4));
+}
+
+}  // namespace
+}  // namespace pellam::qt::testing

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QMessageBox>
+#include <QString>
+#include <QStringList>
+#include <QTimer>
+#include <deque>
+#include <ostream>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "main_window.h"
+
+// Readable failures.
+inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
+
+namespace pellam::qt::testing {
+
+// Answers the real message boxes the app shows, in order, and keeps what each one said as
+// `msgbox "TEXT" -> Button`. A box nobody expected gets its escape button so a test never hangs.
+class BoxAnswerer {
+ public:
+  BoxAnswerer();
+  void queue(QMessageBox::StandardButton button) { answers_.push_back(button); }
+  std::vector<std::string> seen;
+
+ private:
+  QTimer timer_;
+  std::deque<QMessageBox::StandardButton> answers_;
+};
+
+// The app's window, started as a new job, driven through its widgets as a person would.
+class FormDriver {
+ public:
+  FormDriver();
+  ~FormDriver();
+
+  MainWindow& window() { return *window_; }
+  ui::UserForm1& form() { return window_->session().form; }
+  QWidget* widget(const char* name);
+  template <class W>
+  W* as(const char* name) {
+    return qobject_cast<W*>(widget(name));
+  }
+
+  // Opens the combo box's popup, moves the mouse onto the item and clicks it.
+  void choose(const char* combo, int index);
+  void click(const char* button);
+  void type(const char* textBox, const QString& text);
+  void clickLine(const char* listBox, int row);
+  void showPage(const char* page);
+  QStringList lines(const char* listBox);
+  QString shownText(const char* control);
+  bool tabShown(int page);
+  // Hardware, mode, master and input action on the board page, then "Confirm Board Setup".
+  void confirmBoard(int mode);
+
+  BoxAnswerer boxes;
+  std::filesystem::path folder;
+
+ private:
+  std::unique_ptr<MainWindow> window_;
+};
+
+}  // namespace pellam::qt::testing

@@ -1,0 +1,101 @@
+#include <QApplication>
+#include <QFileDialog>
+#include <QTest>
+#include <fstream>
+#include <gmock/gmock.h>
+
+#include "form_driver.h"
+#include "qt_dialogs.h"
+
+namespace pellam::qt::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+TEST(QtDialogs, FiltersBecomeQtNameFilters) {
+  struct Case {
+    std::string filter;
+    QStringList expected;
+  } cases[] = {
+      {"Image Files (*.zpd)|*.zpd|All Files (*.*)|*.*", {"Image Files (*.zpd)", "All Files (*.*)"}},
+      {"Jobs|*.txt;*.zpd", {"Jobs (*.txt *.zpd)"}},
+      {"", {}},
+      {"Dangling|", {"Dangling ()"}},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.filter);
+    EXPECT_EQ(nameFilters(c.filter), c.expected);
+  }
+}
+
+TEST(QtDialogs, MessageBoxesOfferTheButtonsAsked) {
+  QtDialogs dialogs;
+  BoxAnswerer boxes;
+  boxes.queue(QMessageBox::Cancel);
+  EXPECT_EQ(dialogs.msgBox("Delete?", ui::Buttons::OKCancel), ui::Answer::Cancel);
+  boxes.queue(QMessageBox::Yes);
+  EXPECT_EQ(dialogs.msgBox("Create?", ui::Buttons::YesNo), ui::Answer::Yes);
+  // A question nobody answers on purpose takes its careful button, as Escape does.
+  EXPECT_EQ(dialogs.msgBox("Really?", ui::Buttons::YesNo), ui::Answer::No);
+  EXPECT_EQ(dialogs.msgBox("Line one\r\nLine two", ui::Buttons::OK), ui::Answer::OK);
+  EXPECT_THAT(boxes.seen, ElementsAre("msgbox \"Delete?\" -> Cancel", "msgbox \"Create?\" -> Yes",
+                                      "msgbox \"Really?\" -> No", "msgbox \"Line one\nLine two\" -> OK"));
+}
+
+TEST(QtDialogs, FileDialogShowsTheHostsFilterAndIndex) {
+  QtDialogs dialogs;
+  QString shownFilter;
+  QStringList offered;
+  QTimer::singleShot(50, [&] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    offered = dialog->nameFilters();
+    shownFilter = dialog->selectedNameFilter();
+    dialog->reject();
+  });
+  const std::string chosen = dialogs.openFile({"Text (*.txt)|*.txt|All (*.*)|*.*|Images (*.zpd)|*.zpd", 3, true});
+  EXPECT_EQ(chosen, "");
+  EXPECT_EQ(offered.size(), 3);
+  EXPECT_EQ(shownFilter, "Images (*.zpd)");
+}
+
+TEST(AppAsHost, AFileOfAnotherKindIsOpenedOnlyAfterYes) {
+  FormDriver app;
+  const auto path = app.folder / "notes.zpd";
+  std::ofstream(path) << "not an image";
+  app.boxes.queue(QMessageBox::No);
+  app.window().openJob(QString::fromStdString(path.string()));
+  EXPECT_THAT(app.boxes.seen, ElementsAre("msgbox \"Select File is not Pellam Type Continue Loading?\" -> No"));
+  EXPECT_EQ(app.window().windowTitle(), "New Job - Pellam Setup");
+}
+
+TEST(AppAsHost, SavedJobOpensWithItsModeAndName) {
+  FormDriver app;
+  app.confirmBoard(5);
+  EXPECT_TRUE(app.window().unsavedChanges());
+  ASSERT_TRUE(app.window().saveTo(QString::fromStdString((app.folder / "Hall.txt").string())));
+  EXPECT_FALSE(app.window().unsavedChanges());
+
+  FormDriver other;
+  other.window().openJob(QString::fromStdString((app.folder / "Hall.zpd").string()));
+  EXPECT_THAT(other.boxes.seen, IsEmpty());
+  EXPECT_EQ(other.shownText("ComboBox1"), "Station Link");
+  EXPECT_TRUE(other.tabShown(5));
+  EXPECT_EQ(other.window().windowTitle(), "Hall.txt - Pellam Setup");
+}
+
+TEST(AppAsHost, ClosingAChangedJobAsksFirst) {
+  FormDriver app;
+  app.choose("ComboBox48", 2);
+  EXPECT_EQ(app.window().windowTitle(), "New Job* - Pellam Setup");
+  app.boxes.queue(QMessageBox::Cancel);
+  EXPECT_FALSE(app.window().close());
+  EXPECT_TRUE(app.window().isVisible());
+  app.boxes.queue(QMessageBox::Discard);
+  EXPECT_TRUE(app.window().close());
+  EXPECT_EQ(app.boxes.seen.size(), 2u);
+}
+
+}  // namespace
+}  // namespace pellam::qt::testing

@@ -17,29 +17,11 @@
 #include "component/job_files.h"
 #include "form_view.h"
 #include "main_window.h"
+#include "maximal_job.h"
 
 namespace {
 
 using namespace pellam;
-
-// The longest lists an opened job can give: every room-combine channel, every station.
-void fillMaximalJob(component::Session& s, int mode) {
-  ui::UserForm1& f = s.form;
-  f.ComboBox48.select(2);
-  f.ComboBox1.select(mode);
-  f.ComboBox2.select(1);
-  f.ComboBox6.select(1);
-  f.CommandButton4.click();
-  job::Job& job = s.job;
-  for (std::int16_t i = 0; i < 17; ++i)
-    job.roomLink.records[static_cast<std::size_t>(i)] = {static_cast<std::int16_t>(i + 1), 1, 2, i};
-  for (std::int16_t n = 1; n <= 127; ++n) {
-    job.stationLink.records[static_cast<std::size_t>(n)] = {n, 9, static_cast<std::int16_t>(n % 255 + 1), n};
-    job.stationPersonality.records[static_cast<std::size_t>(n - 1)] = {n, 9, 4, n, 1};
-  }
-  for (std::uint16_t c = 1; c <= 2048; ++c)
-    job.roomCombine.records[c] = {c, static_cast<std::uint16_t>(c % 255 + 1), static_cast<std::uint16_t>(c / 9 % 255 + 1), c};
-}
 
 class FirstPaint final : public QObject {
  public:
@@ -83,7 +65,7 @@ int open(int runs) {
   });
   answer.start(50);
   for (int mode : {3, 5}) {
-    fillMaximalJob(window.session(), mode);
+    bench::fillMaximalJob(window.session(), mode);
     const std::string zpd =
         component::SaveJobSequence(window.session(), (folder / "Max.txt").string(), "Directory Not Found");
     std::vector<double> ms;

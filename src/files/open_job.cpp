@@ -30,8 +30,11 @@ std::optional<std::ifstream> OpenImageFile(const std::string& path) {
   std::error_code ec;
   const fs::path p = fsPath(path);
   if (path.empty() || !fs::is_regular_file(p, ec)) return std::nullopt;
-  std::ifstream in(p, std::ios::binary);
-  if (!in.is_open()) return std::nullopt;
+  std::optional<std::ifstream> in(std::in_place);
+  // The image is read in one call, so the stream needs no buffer of its own.
+  in->rdbuf()->pubsetbuf(nullptr, 0);
+  in->open(p, std::ios::binary);
+  if (!in->is_open()) return std::nullopt;
   return in;
 }
 

@@ -82,16 +82,9 @@ void PackChannelBlock(EepromImage& image, int base, const job::ChannelEmulationR
 }
 
 void DecodeChannelBlock(const EepromImage& image, int base, job::ChannelEmulationRecord& record) {
-  record.FadeRate = image.at(base);
-  record.ChannelCount = 0;
-  // Slots past the decoded channels are emptied once, at the end.
-  auto emptyFrom = [&](int first) {
-    std::fill(record.Channels.begin() + first, record.Channels.end(), 0);
-    std::fill(record.Levels.begin() + first, record.Levels.end(), 0);
-  };
-  if (image.at(base + 2) == 0) return emptyFrom(0);
-
-  const int end = base + map::kBlockSize;
+  image.at(base + map::kBlockSize - 1);  // the whole block lies inside the image
+  const std::uint8_t* const block = image.bytes().data() + base;
+  record.FadeRate = block[0];
   int slot = 0;
   auto take = [&](int channel, int level) {
     if (channel < 1 || channel > kChannelLast || slot >= kChannelsPerInput) return;
@@ -99,17 +92,22 @@ void DecodeChannelBlock(const EepromImage& image, int base, job::ChannelEmulatio
     record.Levels[static_cast<std::size_t>(slot)] = static_cast<std::int16_t>(level);
     ++slot;
   };
-  int at = base + kChannelBlockGroupsStart;
-  while (at + 1 < end && image.at(at) != 0) {
-    const int pairs = image.at(at);
-    const int level = image.at(at + 1);
+  int at = block[2] == 0 ? map::kBlockSize : kChannelBlockGroupsStart;
+  while (at + 1 < map::kBlockSize && block[at] != 0) {
+    const int pairs = block[at];
+    const int level = block[at + 1];
     at += 2;
     int previous = 0;
-    for (int p = 0; p < pairs && at + 1 < end; ++p, at += 2) {
-      const int high = image.at(at);
-      const int channel = ((high & kChannelHighMask) << 8) | image.at(at + 1);
-      if ((high & kRangeEnd) != 0 && previous > 0) {
-        for (int c = previous + 1; c <= channel && slot < kChannelsPerInput; ++c) take(c, level);
+    for (int p = 0; p < pairs && at + 1 < map::kBlockSize; ++p, at += 2) {
+      const int channel = ((block[at] & kChannelHighMask) << 8) | block[at + 1];
+      if ((block[at] & kRangeEnd) != 0 && previous > 0) {
+        const int last = std::min(channel, kChannelLast);
+        const int n = std::min(last - previous, kChannelsPerInput - slot);
+        for (int i = 0; i < n; ++i) {
+          record.Channels[static_cast<std::size_t>(slot + i)] = static_cast<std::int16_t>(previous + 1 + i);
+          record.Levels[static_cast<std::size_t>(slot + i)] = static_cast<std::int16_t>(level);
+        }
+        slot += std::max(n, 0);
       } else {
         take(channel, level);
       }
@@ -117,7 +115,9 @@ void DecodeChannelBlock(const EepromImage& image, int base, job::ChannelEmulatio
     }
   }
   record.ChannelCount = static_cast<std::int16_t>(slot);
-  emptyFrom(slot);
+  // Slots past the decoded channels are emptied once, here.
+  std::fill(record.Channels.begin() + slot, record.Channels.end(), 0);
+  std::fill(record.Levels.begin() + slot, record.Levels.end(), 0);
 }
 
 }  // namespace pellam::image

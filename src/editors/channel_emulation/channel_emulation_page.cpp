@@ -39,6 +39,8 @@ void listInput(job::ChannelEmulationRecord& one, job::ChannelEmulationRecord& tw
                ui::ListBox& listTwo) {
   std::vector<std::string> linesOne;
   std::vector<std::string> linesTwo;
+  linesOne.reserve(static_cast<std::size_t>(job::kChannelSlotsListed));
+  linesTwo.reserve(static_cast<std::size_t>(job::kChannelSlotsListed));
   for (std::size_t s = 0; s < static_cast<std::size_t>(job::kChannelSlotsListed); ++s) {
     if (one.Channels[s] <= 0) continue;
     one.ListChannels[linesOne.size()] = one.Channels[s];

@@ -2,11 +2,13 @@
 
 #include <string>
 
+#include "ui/list_line.h"
+
 namespace pellam::editors::channel_emulation {
 
 // "Channel :12 @ % 75": the at-sign before the percent sign, as the editor has always shown it.
 inline std::string channelLine(int channel, int level) {
-  return "Channel :" + std::to_string(channel) + " @ % " + std::to_string(level);
+  return ui::listLine("Channel :", channel, " @ % ", level);
 }
 
 }  // namespace pellam::editors::channel_emulation
@@ -15,8 +17,8 @@ namespace pellam::editors::channel_emulation {
 
 // The fade label reads "Minutes" for code 61 where the list says "1 Minute"; kept so.
 inline std::string fadeRateLabel(int code) {
-  return code <= 60 ? "Fade Rate: " + std::to_string(code - 1) + " Seconds"
-                    : "Fade Rate: " + std::to_string(code - 60) + " Minutes";
+  return code <= 60 ? ui::listLine("Fade Rate: ", code - 1, " Seconds")
+                    : ui::listLine("Fade Rate: ", code - 60, " Minutes");
 }
 
 }  // namespace pellam::editors::channel_emulation

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "ui/choice_lists.h"
+#include "ui/list_line.h"
 
 namespace pellam::editors::input_numbering {
 
@@ -49,7 +50,7 @@ bool NumberInput(job::InputNumberTable& table, ui::Dialogs& dialogs, int input, 
 }
 
 std::string numberingLine(const job::InputNumberRecord& record) {
-  return "Input " + std::to_string(record.InputNumber) + ": Room " + std::to_string(record.RoomNumber);
+  return ui::listLine("Input ", record.InputNumber, ": Room ", record.RoomNumber);
 }
 
 InputNumberingPage::InputNumberingPage(ui::UserForm1& form, job::InputNumberTable& table, ui::Dialogs& dialogs)

@@ -1,5 +1,7 @@
 #include "editors/preset_emulation/list_lines.h"
 
+#include "ui/list_line.h"
+
 namespace pellam::editors::preset_emulation {
 
 std::string_view stationKindName(int kind) {
@@ -14,16 +16,15 @@ std::string_view stationKindName(int kind) {
 }
 
 std::string rebuiltActionText(const job::PresetRecord& r, const std::string& previous) {
-  const std::string number = std::to_string(r.ActionNumber);
   switch (r.StationKind) {
     case 7:
-    case 9: return "  Button :" + number;
+    case 9: return ui::listLine("  Button :", r.ActionNumber);
     case 10:
       if (r.ActionNumber == 17) return "  Max On";
       if (r.ActionNumber == 18) return "  Max Off";
-      return "  Preset :" + number;
+      return ui::listLine("  Preset :", r.ActionNumber);
     case 11:
-    case 12: return "  Preset :" + number;
+    case 12: return ui::listLine("  Preset :", r.ActionNumber);
     default: return previous;
   }
 }
@@ -45,14 +46,13 @@ std::string addedActionText(job::PresetEmulationTable& table, int netIdSlot, int
     case 7: return chosenActionText(r, "");
     case 9:
       if (table.at(netIdSlot + 1, inputSlot).ActionNumber == kButtonRelease) return kButtonReleaseText;
-      return "  Button :" + std::to_string(table.at(netIdSlot, inputSlot + 1).ActionNumber);
+      return ui::listLine("  Button :", table.at(netIdSlot, inputSlot + 1).ActionNumber);
     default: return rebuiltActionText(r, "");
   }
 }
 
 std::string entryLine(std::string_view kindName, const job::PresetRecord& r, const std::string& actionText) {
-  return std::string(kindName) + "  NetId: " + std::to_string(r.NetIdPlusOne) + "  Personality  " +
-         std::to_string(r.Personality) + actionText;
+  return ui::listLine(kindName, "  NetId: ", r.NetIdPlusOne, "  Personality  ", r.Personality, actionText);
 }
 
 }  // namespace pellam::editors::preset_emulation

@@ -4,11 +4,13 @@
 #include <string>
 #include <string_view>
 
+#include "ui/list_line.h"
+
 namespace pellam::editors::remote_commands {
 
 // "NetId 5 Led 3" in the LED mode (1), "NetId 5 Btn 3" in the button mode (2).
 inline std::string commandLine(int netId, int value, int remoteMode) {
-  return "NetId " + std::to_string(netId) + (remoteMode == 1 ? " Led " : " Btn ") + std::to_string(value);
+  return ui::listLine("NetId ", netId, remoteMode == 1 ? " Led " : " Btn ", value);
 }
 
 // The net id a command line stands for, in either wording; -1 when the text is no command line.

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "job/tables.h"
+#include "ui/list_line.h"
 
 namespace pellam::editors::station_link {
 
@@ -12,7 +13,7 @@ std::string_view stationTypeName(int code);
 
 // "Room: 4 T6600 LCD  NetId: 21"
 inline std::string linkLine(const job::StationLinkRecord& r, std::string_view typeText) {
-  return "Room: " + std::to_string(r.LinkRoom) + " " + std::string(typeText) + "  NetId: " + std::to_string(r.LinkNetId);
+  return ui::listLine("Room: ", r.LinkRoom, " ", typeText, "  NetId: ", r.LinkNetId);
 }
 
 }  // namespace pellam::editors::station_link

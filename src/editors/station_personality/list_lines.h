@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "job/tables.h"
+#include "ui/list_line.h"
 
 namespace pellam::editors::station_personality {
 
@@ -13,8 +14,8 @@ inline std::string_view seriesName(int series) {
 
 // "T6600 Series  NetId: 21  Personality  3  Room : 4"
 inline std::string personalityLine(std::string_view seriesText, const job::StationPersonalityRecord& r) {
-  return std::string(seriesText) + "  NetId: " + std::to_string(r.PersNetIdPlusOne) + "  Personality  " +
-         std::to_string(r.PersNumber) + "  Room : " + std::to_string(r.PersRoom);
+  return ui::listLine(seriesText, "  NetId: ", r.PersNetIdPlusOne, "  Personality  ", r.PersNumber, "  Room : ",
+                      r.PersRoom);
 }
 
 }  // namespace pellam::editors::station_personality

@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
-#include "image/memory_map.h"
 #include "component/platform.h"
 #include "support/desk.h"
 
@@ -10,52 +7,8 @@ namespace pellam::component {
 namespace {
 
 using testing::Desk;
-using testing::TempFolder;
-using Lines = std::vector<std::string>;
 
-std::string imageWithTypeByte(unsigned char type) {
-  std::string bytes(image::map::kZpdSize, '\0');
-  bytes[image::map::kProductTypeByte] = static_cast<char>(type);
-  return bytes;
-}
-
-TEST(Class1ProductType, AcceptsABoardImageWithoutAsking) {
-  Desk desk;
-  TempFolder tmp;
-  std::string path = tmp.write("job.zpd", imageWithTypeByte(11));
-  EXPECT_EQ(desk.class1().Product_Type(path), 1);
-  EXPECT_TRUE(desk.shown().empty());
-  EXPECT_EQ(desk.session().image.at(image::map::kProductTypeByte), 11);
-}
-
-TEST(Class1ProductType, AsksAboutAnyOtherFile) {
-  Desk desk;
-  TempFolder tmp;
-  std::string foreign = tmp.write("other.zpd", imageWithTypeByte(7));
-  std::string shortFile = tmp.write("short.zpd", "hello");
-  const std::string question = "msgbox \"Select File is not Pellam Type Continue Loading?\" YesNo -> ";
-
-  desk.answer(ui::Answer::No);
-  EXPECT_EQ(desk.class1().Product_Type(foreign), -1);
-  EXPECT_EQ(desk.shown(), Lines{question + "No"});
-  EXPECT_EQ(desk.session().image.at(image::map::kProductTypeByte), 7) << "the byte read stays in the image";
-
-  desk.answer(ui::Answer::Yes);
-  EXPECT_EQ(desk.class1().Product_Type(shortFile), 1);
-  EXPECT_EQ(desk.shown(), Lines{question + "Yes"});
-  EXPECT_EQ(desk.session().image.at(image::map::kProductTypeByte), 0) << "a short file reads 0 there";
-}
-
-TEST(Class1ProductType, RefusesWhatIsNotAFile) {
-  Desk desk;
-  TempFolder tmp;
-  for (std::string path : {tmp.file("missing.zpd"), tmp.path().string(), std::string()}) {
-    EXPECT_EQ(desk.class1().Product_Type(path), -1);
-    EXPECT_EQ(desk.shown(), Lines{"msgbox \"Cannot Open File: " + path + "\" OK"});
-  }
-  EXPECT_FALSE(std::filesystem::exists(tmp.file("missing.zpd"))) << "no stray file is made";
-}
-
+// Product_Type and the members a script can see are walked through in tests/scripts/host_members.
 TEST(Class1ReturnFileNamePath, ShowsTheFileDialogAndGivesThePath) {
   struct Recorder : ui::Dialogs {
     ui::FileDialogRequest request;

@@ -3,7 +3,6 @@
 #include <map>
 
 #include "image/memory_map.h"
-#include "ui/choice_lists.h"
 #include "support/desk.h"
 
 namespace pellam::component {
@@ -11,48 +10,8 @@ namespace {
 
 using testing::Desk;
 
-// Which control gets which list; the lists' texts, counts and quirks are checked item by
-// item in the start_up_lists form script.
-TEST(StartUp, FillsEveryChoiceList) {
-  Desk desk;
-  desk.startUp();
-  namespace lists = ui::lists;
-  const std::pair<std::vector<std::string>, std::vector<const char*>> wiring[] = {
-      {lists::operatingModes(), {"ComboBox1"}},
-      {lists::masterSlave(), {"ComboBox2"}},
-      {lists::slaveIds(), {"ComboBox25"}},
-      {lists::hardwareTypes(), {"ComboBox48"}},
-      {lists::refreshRates(), {"ComboBox55"}},
-      {lists::fadeRates(), {"ComboBox27", "ComboBox49"}},
-      {lists::levels(), {"ComboBox28", "ComboBox47"}},
-      {lists::firstChannels(), {"ComboBox45"}},
-      {lists::inputs(), {"ComboBox26", "ComboBox7", "ComboBox20", "ComboBox30", "ComboBox42", "ComboBox69"}},
-      {lists::rooms(), {"ComboBox8", "ComboBox9", "ComboBox22", "ComboBox23", "ComboBox31", "ComboBox32", "ComboBox33",
-                        "ComboBox36", "ComboBox43"}},
-      {lists::groups(), {"ComboBox37"}},
-      {lists::channels(), {"ComboBox38"}},
-      {lists::presetStationKinds(), {"ComboBox39"}},
-      {lists::linkStationTypes(), {"ComboBox34"}},
-      {lists::personalitySeries(), {"ComboBox17"}},
-      {lists::netIds(), {"ComboBox35", "ComboBox50"}},
-      {lists::netIdNames(), {"ComboBox41", "ComboBox19"}},
-      {lists::personalities(), {"ComboBox18"}},
-      {lists::remoteNetIds(), {"ComboBox68"}},
-      {lists::remotePages(), {"ComboBox70"}},
-      {lists::remoteButtons(), {"ListBox17"}},
-  };
-  for (const auto& [items, controls] : wiring) {
-    for (const char* name : controls) {
-      const auto* list = dynamic_cast<const ui::ListControl*>(desk.form().find(name));
-      ASSERT_NE(list, nullptr) << name;
-      EXPECT_EQ(list->items(), items) << name;
-      EXPECT_EQ(list->listIndex(), -1) << name << ": nothing is chosen after start-up";
-    }
-  }
-  EXPECT_EQ(desk.form().ComboBox6.count(), 0) << "the input-action list waits for an operating mode";
-  EXPECT_TRUE(desk.shown().empty());
-}
-
+// Which control gets which list, and the lists' texts, are walked through in the start_up_lists
+// form script.
 std::map<std::string, std::pair<std::vector<std::string>, int>> snapshotLists(ui::UserForm1& form) {
   std::map<std::string, std::pair<std::vector<std::string>, int>> lists;
   for (const ui::Control* c : form.controls()) {

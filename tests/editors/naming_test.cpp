@@ -13,23 +13,6 @@ namespace {
 using testing::Desk;
 using Lines = std::vector<std::string>;
 
-TEST(SetLabelTest, ANumberIsLabelledOnce) {
-  Desk desk;
-  job::RoomGroupNames names;
-  ui::Dialogs& dialogs = desk.session().dialogs();
-
-  EXPECT_EQ(SetRoomLabel(names, dialogs, "Lobby", 7), 0);
-  EXPECT_EQ(SetRoomLabel(names, dialogs, "Hall", 7), -1);
-  EXPECT_EQ(names.names[7].RoomLabel, "Lobby");
-  EXPECT_EQ(SetGroupLabel(names, dialogs, "Stage", 7), 0) << "rooms and groups are numbered apart";
-  EXPECT_EQ(SetGroupLabel(names, dialogs, "Pit", 7), -1);
-  EXPECT_EQ(names.names[7].GroupLabel, "Stage");
-  EXPECT_EQ(desk.shown(), (Lines{"msgbox \"Dulpicate Room Number\" OK", "msgbox \"Dulpicate Group Number\" OK"}));
-
-  EXPECT_EQ(SetGroupLabel(names, dialogs, "Pit", -1), -1);
-  EXPECT_EQ(desk.shown(), Lines{"msgbox \"Group Not Selected\" OK"});
-}
-
 TEST(SetLabelTest, NumbersBeyond255AreAProgrammingError) {
   Desk desk;
   job::RoomGroupNames names;

@@ -54,22 +54,6 @@ class ChannelBlock : public ::testing::Test {
   std::unique_ptr<EepromImage> image = std::make_unique<EepromImage>();
 };
 
-TEST_F(ChannelBlock, SmallRecordHandComputed) {
-  std::vector<Slot> slots;
-  for (int c = 1; c <= 10; ++c) slots.emplace_back(c, 75);
-  slots.emplace_back(20, 75);
-  slots.emplace_back(30, 50);
-  PackChannelBlock(*image, kBase, recordOf(5, slots));
-  EXPECT_EQ(bytesAt(*image, kBase, 16), (std::vector<int>{5, 0, 12, 3, 75, 0, 1, 128, 10, 0, 20, 1, 50, 0, 30, 0}));
-}
-
-TEST_F(ChannelBlock, HighBytesAndTheRangeMark) {
-  std::vector<Slot> slots{{300, 100}};
-  for (int c = 2040; c <= 2048; ++c) slots.emplace_back(c, 100);
-  PackChannelBlock(*image, kBase, recordOf(240, slots));
-  EXPECT_EQ(bytesAt(*image, kBase, 12), (std::vector<int>{240, 0, 10, 3, 100, 1, 44, 7, 248, 136, 0, 0}));
-}
-
 TEST_F(ChannelBlock, GroupsFollowSlotOrderAndSkipHoles) {
   struct Case {
     const char* name;

@@ -8,47 +8,6 @@
 namespace pellam::image {
 namespace {
 
-// The board's own table of offsets, written out literally.
-TEST(MemoryMap, OffsetsAreTheBoards) {
-  EXPECT_EQ(map::kImageSize, 34002);
-  EXPECT_EQ(map::kZpdSize, 32767);
-  EXPECT_EQ(map::kSignatureByte, 0);
-  EXPECT_EQ(map::kRoomCombineMapLast, 4097);
-  EXPECT_EQ(map::kStationFormABase + 3 * 1, 5000) << "form A row 1 shares form B row 0's slot";
-  EXPECT_EQ(map::kStationFormBBase, 5000);
-  EXPECT_EQ(map::kInputNumberingReverseBase, 5000);
-  EXPECT_EQ(map::kInputNumberingPerInputBase, 5300);
-  EXPECT_EQ(map::kPersonalityByNetIdBase, 5766);
-  EXPECT_EQ(map::kHardwareTypeByte, 6100);
-  EXPECT_EQ(map::kProductTypeByte, 6101);
-  EXPECT_EQ(map::kProductTypeValue, 11);
-  EXPECT_EQ(map::kMasterSlaveByte, 6200);
-  EXPECT_EQ(map::kSlaveIdByte, 6201);
-  EXPECT_EQ(map::kInputActionByte, 6202);
-  EXPECT_EQ(map::kOffsetFlagByte, 6204);
-  EXPECT_EQ(map::kMasterInputsBase, 6205);
-  EXPECT_EQ(map::kOptionFlagsByte, 6250);
-  EXPECT_EQ(map::kTimerHighByte, 6251);
-  EXPECT_EQ(map::kTimerLowByte, 6252);
-  EXPECT_EQ(map::kOperatingModeByte, 6400);
-  EXPECT_EQ(map::kFurtherOptionByte, 6401);
-  EXPECT_EQ(map::kInputScanByte, 6450);
-  EXPECT_EQ(map::roomLinkRowBase(0), 7874);
-  EXPECT_EQ(map::roomLinkRowBase(16) + 1, 7907);
-}
-
-TEST(MemoryMap, PerInputBlocksHaveTwoBanks) {
-  EXPECT_EQ(map::blockBase(1), 8300);
-  EXPECT_EQ(map::blockBase(16), 12800);
-  EXPECT_EQ(map::blockBase(17), 20300) << "the second bank starts at 20000, not after input 16";
-  EXPECT_EQ(map::blockBase(32), 24800);
-}
-
-TEST(MemoryMap, RemoteCommandPagesFillTheirRegion) {
-  EXPECT_EQ(map::remoteCommandPageBase(1), 25200);
-  EXPECT_EQ(map::remoteCommandPageBase(16) + map::kRemoteCommandPageSize - 1, 26159);
-}
-
 TEST(EepromImage, WritesAreChecked) {
   EepromImage image;
   image.put(0, 255);

@@ -21,21 +21,21 @@ class Packing : public ::testing::Test {
   EepromImage image;
 };
 
-TEST_F(Packing, BoardSetupForAMasterCarriesSlaveId200) {
-  PackBoardSetup(image, {1, 7, 3, 2, 4});
-  EXPECT_EQ(bytesAt(image, 6200, 3), (std::vector<int>{1, 200, 3}));
-  EXPECT_EQ(image.at(6100), 2);
-  EXPECT_EQ(image.at(6101), 11);
-  EXPECT_EQ(image.at(6400), 4);
-  PackBoardSetup(image, {1, 999, 3, 2, 4});
-  EXPECT_EQ(image.at(6201), 200) << "a master's slave id is never looked at";
-}
-
-TEST_F(Packing, BoardSetupStoresTheSlavedChoiceAsZeroWithItsId) {
-  PackBoardSetup(image, {2, 7, 3, 2, 5});
-  EXPECT_EQ(image.at(6200), 0);
-  EXPECT_EQ(image.at(6201), 7);
-  EXPECT_EQ(image.at(6400), 5);
+// A master's slave id is never looked at: 200 is stored whatever it holds.
+TEST_F(Packing, BoardSetupStoresTheMasterSlaveChoiceAndTheSlaveId) {
+  struct Case {
+    BoardValues values;
+    std::vector<int> expected;  // 6200, 6201, 6202, 6100, 6101, 6400
+  };
+  const Case cases[] = {{{1, 7, 3, 2, 4}, {1, 200, 3, 2, 11, 4}},
+                        {{1, 999, 3, 2, 4}, {1, 200, 3, 2, 11, 4}},
+                        {{2, 7, 3, 2, 5}, {0, 7, 3, 2, 11, 5}}};
+  for (const Case& c : cases) {
+    PackBoardSetup(image, c.values);
+    EXPECT_EQ((std::vector<int>{image.at(6200), image.at(6201), image.at(6202), image.at(6100), image.at(6101),
+                                image.at(6400)}),
+              c.expected);
+  }
 }
 
 // The step writes 6200, 6201, 6202, 6100, 6400, 6101 in that order and stops at the bad value.
@@ -130,33 +130,22 @@ TEST_F(Packing, MasterInputsAndTheOffsetFlag) {
   EXPECT_EQ(bytesAt(image, 6205, 16), (std::vector<int>{1, 4, 7, 10, 13, 16, 19, 22, 25, 28, 31, 34, 37, 40, 43, 46}));
   EXPECT_EQ(image.at(6221), 0);
 
+  // The flag is only raised for an action the offset can express: a flag over action 3 would
+  // read back as 7 and grow by 4 at every open and save.
   struct Case {
-    int mode, companion, flag;
+    int mode, companion, action, flag, stored;
   };
-  for (const Case& c : {Case{1, 2, 1}, Case{1, 1, 0}, Case{2, 2, 0}, Case{0, 0, 0}}) {
-    SCOPED_TRACE(::testing::Message() << "mode " << c.mode << " companion " << c.companion);
+  for (const Case& c : {Case{1, 2, 7, 1, 3}, Case{1, 2, 3, 0, 3}, Case{1, 1, 7, 0, 7}, Case{2, 2, 7, 0, 7},
+                        Case{0, 0, 7, 0, 7}}) {
+    SCOPED_TRACE(::testing::Message() << "mode " << c.mode << " companion " << c.companion << " action " << c.action);
     inputs.Mode = static_cast<std::int16_t>(c.mode);
     inputs.Companion = static_cast<std::int16_t>(c.companion);
-    PackOffsetFlag(image, inputs, 7);
+    PackOffsetFlag(image, inputs, c.action);
     EXPECT_EQ(image.at(6204), c.flag);
+    EXPECT_EQ(inputActionForImage(inputs, c.action), c.stored);
   }
   inputs.entries[3] = 256;
   EXPECT_THROW(PackMasterInputs(image, inputs), job::RuntimeError);
-}
-
-// The flag depends on the master-input mode and its companion setting alone.
-// The flag is only raised for an action the offset can express: a flag over action 3 would
-// read back as 7 and grow by 4 at every open and save.
-TEST_F(Packing, OffsetFlagOnlyForActionsAboveTheOffset) {
-  job::MasterInputs inputs;
-  inputs.Mode = 1;
-  inputs.Companion = 2;
-  PackOffsetFlag(image, inputs, 3);
-  EXPECT_EQ(image.at(6204), 0);
-  EXPECT_EQ(inputActionForImage(inputs, 3), 3);
-  PackOffsetFlag(image, inputs, 7);
-  EXPECT_EQ(image.at(6204), 1);
-  EXPECT_EQ(inputActionForImage(inputs, 7), 3);
 }
 
 TEST_F(Packing, RoomLinkRowsWithoutAnInputStayZero) {

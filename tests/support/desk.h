@@ -46,6 +46,9 @@ class Desk {
   std::unique_ptr<component::Session> session_;
 };
 
+// A message box with only an OK button, as shown() lists it.
+inline std::string okBox(const std::string& text) { return "msgbox \"" + text + "\" OK"; }
+
 // A whole file, and image bytes as numbers, for comparing with values written out by hand.
 std::string readAll(const std::filesystem::path& path);
 std::vector<int> bytesAt(const image::EepromImage& image, int first, int count);

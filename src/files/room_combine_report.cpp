@@ -39,15 +39,16 @@ void pass(std::string& out, std::vector<Entry> entries, const std::array<std::in
   auto at = entries.begin();
   for (int outer = 1; outer <= 255; ++outer) {
     if (outerInUse[static_cast<std::size_t>(outer)] == 0) continue;
-    out += kDashes + kCrLf + kCrLf + "    ####" + headingWord + std::to_string(outer) + " #####" + kCrLf + kCrLf;
+    out.append(kDashes).append(kCrLf).append(kCrLf).append("    ####").append(headingWord);
+    out.append(std::to_string(outer)).append(" #####").append(kCrLf).append(kCrLf);
     while (at != entries.end() && outerOf(*at) < outer) ++at;
     for (; at != entries.end() && outerOf(*at) == outer; ++at) {
       if (innerInUse[static_cast<std::size_t>(innerOf(*at))] == 0) continue;
       const int line = table.records[static_cast<std::size_t>(at->channel)].CombineListLine;
       if (line < 1 || line > static_cast<int>(lines.size())) throw job::RuntimeError(job::kSubscriptOutOfRange);
-      out += lines[static_cast<std::size_t>(line - 1)] + kCrLf;
+      out.append(lines[static_cast<std::size_t>(line - 1)]).append(kCrLf);
     }
-    out += kDashes + kCrLf + kCrLf;
+    out.append(kDashes).append(kCrLf).append(kCrLf);
   }
 }
 
@@ -70,15 +71,22 @@ std::string RoomCombineReport(const job::RoomCombineTable& table, const RoomsAnd
   std::string out = std::string(35, '*') + kCrLf + "Date " + dateText(now) + kCrLf + "Time " + timeText(now) + kCrLf +
                     "Combine Data is Sorted By Room Then By Group" + kCrLf + kCrLf +
                     "Comma delimited Text file listing of room combine data" + kCrLf;
+  // Sized once: a maximal report is larger than the allocator keeps on its heap, and growing
+  // it step by step maps and faults in fresh pages every time.
+  std::size_t size = out.size() + 2 * 255 * 96;
+  for (const std::vector<std::string>* list : {&lists.roomCombine, &lists.roomCombine, &lists.roomLinks, &lists.stations}) {
+    for (const std::string& line : *list) size += line.size() + 2;
+  }
+  out.reserve(size + 256);
   const std::vector<Entry> entries = entriesInUse(table);
   pass(out, entries, use.rooms, use.groups, lists.roomCombine, table, [](const Entry& e) { return e.room; },
        [](const Entry& e) { return e.group; }, "Room ");
   pass(out, entries, use.groups, use.rooms, lists.roomCombine, table, [](const Entry& e) { return e.group; },
        [](const Entry& e) { return e.room; }, " Group ");
   out += kCrLfs + kCrLf + "****Room Links****" + kCrLf + kCrLf;
-  for (const std::string& line : lists.roomLinks) out += line + kCrLf;
+  for (const std::string& line : lists.roomLinks) out.append(line).append(kCrLf);
   out += kCrLfs + kCrLf + "**Station Locations**" + kCrLf + kCrLf;
-  for (const std::string& line : lists.stations) out += line + kCrLf;
+  for (const std::string& line : lists.stations) out.append(line).append(kCrLf);
   return out;
 }
 

@@ -11,7 +11,8 @@ class CommandView final : public ControlView {
  public:
   CommandView(ui::CommandButton& control, QWidget* parent, ActionDone done)
       : control_(control), button_(new QPushButton(parent)) {
-    button_->setAutoDefault(false);
+    // Return presses the button that has the focus, as Space does.
+    button_->setAutoDefault(true);
     QObject::connect(button_, &QPushButton::clicked, button_, [this, done] {
       control_.click();
       done();

@@ -1,7 +1,12 @@
 #include "form_view.h"
 
+#include <QEvent>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTimer>
 #include <algorithm>
+
+#include "reading_order.h"
 
 namespace pellam::qt {
 
@@ -25,16 +30,20 @@ std::unique_ptr<ControlView> makeView(ui::Control& c, QWidget* parent, const Act
 }  // namespace
 
 FormView::FormView(ui::UserForm1& form, QWidget* parent) : QWidget(parent), form_(form) {
-  const ActionDone done = [this] { actionDone(); };
+  // The tabs and pages now; a page's controls when the page is first shown, since most jobs
+  // never open most pages.
   for (ui::Control* control : form_.controls()) {
     const ui::ControlSpec& spec = control->spec();
-    QWidget* parentWidget = this;
-    if (!spec.parent.empty()) parentWidget = byControl_.at(form_.find(spec.parent))->childParent();
-    auto view = makeView(*control, parentWidget, done);
-    if (spec.kind != ui::Kind::Page) view->widget()->setGeometry(spec.left, spec.top, spec.width, spec.height);
-    if (spec.kind == ui::Kind::MultiPage) multiPage_ = view.get();
-    byControl_[control] = view.get();
-    views_.push_back(std::move(view));
+    if (spec.kind == ui::Kind::MultiPage || spec.kind == ui::Kind::Page) {
+      QWidget* parentWidget = multiPage_ ? multiPage_->widget() : this;
+      add(*control, parentWidget);
+      if (spec.kind == ui::Kind::MultiPage) multiPage_ = views_.back().get();
+      if (spec.kind == ui::Kind::Page) views_.back()->widget()->installEventFilter(this);
+      continue;
+    }
+    const ui::Control* page = control;
+    while (page->kind() != ui::Kind::Page) page = form_.find(page->spec().parent);
+    unbuilt_[page].push_back(control);
   }
   // The tabs hold the pages; the window is as large as they are.
   const QSize tabs = multiPage_->widget()->minimumSizeHint();
@@ -47,16 +56,73 @@ FormView::FormView(ui::UserForm1& form, QWidget* parent) : QWidget(parent), form
 
 FormView::~FormView() { form_.setObserver(nullptr); }
 
-QWidget* FormView::widgetFor(std::string_view name) const {
+ControlView& FormView::add(ui::Control& control, QWidget* parent) {
+  auto view = makeView(control, parent, [this] { actionDone(); });
+  const ui::ControlSpec& spec = control.spec();
+  if (spec.kind != ui::Kind::Page) view->widget()->setGeometry(spec.left, spec.top, spec.width, spec.height);
+  byControl_[&control] = view.get();
+  views_.push_back(std::move(view));
+  return *views_.back();
+}
+
+bool FormView::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Show) {
+    for (auto& [page, controls] : unbuilt_) {
+      if (byControl_.at(page)->widget() == watched) {
+        build(page);
+        break;
+      }
+    }
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+void FormView::build(const ui::Control* page) {
+  const auto found = unbuilt_.find(page);
+  if (found == unbuilt_.end()) return;
+  const std::vector<ui::Control*> controls = std::move(found->second);
+  unbuilt_.erase(found);
+  std::vector<ControlView*> made;
+  // The table lists a frame before its controls.
+  for (ui::Control* control : controls)
+    made.push_back(&add(*control, byControl_.at(form_.find(control->spec().parent))->childParent()));
+  for (ControlView* view : made) view->redraw();
+  orderTabs(*page);
+}
+
+void FormView::orderTabs(const ui::Control& page) {
+  // From the tabs into the page's controls as they read; widgets hidden at the time, and the
+  // other pages' controls, are passed over by Qt itself.
+  QWidget* previous = static_cast<QTabWidget*>(multiPage_->widget())->tabBar();
+  QWidget* pageWidget = byControl_.at(&page)->widget();
+  for (const ui::ControlSpec* spec : readingOrder(ui::userForm1Table())) {
+    const auto view = byControl_.find(form_.find(spec->name));
+    if (view == byControl_.end()) continue;
+    QWidget* next = view->second->widget();
+    if (!pageWidget->isAncestorOf(next) || !(next->focusPolicy() & Qt::TabFocus)) continue;
+    QWidget::setTabOrder(previous, next);
+    previous = next;
+  }
+}
+
+QWidget* FormView::widgetFor(std::string_view name) {
   const ui::Control* control = form_.find(name);
-  return control ? byControl_.at(control)->widget() : nullptr;
+  if (!control) return nullptr;
+  if (!byControl_.contains(control)) {
+    const ui::Control* page = control;
+    while (page->kind() != ui::Kind::Page) page = form_.find(page->spec().parent);
+    build(page);
+  }
+  return byControl_.at(control)->widget();
 }
 
 void FormView::changed(const ui::Control* control) {
   if (!control) {
     everything_ = true;
-  } else if (ControlView* view = byControl_.at(control); std::find(dirty_.begin(), dirty_.end(), view) == dirty_.end()) {
-    dirty_.push_back(view);
+  } else if (const auto view = byControl_.find(control); view == byControl_.end()) {
+    return;  // drawn whole when its page is built
+  } else if (std::find(dirty_.begin(), dirty_.end(), view->second) == dirty_.end()) {
+    dirty_.push_back(view->second);
   }
   // Changes made while a message box is up are drawn by the box's own event loop.
   if (!flushQueued_) {
@@ -81,7 +147,8 @@ void FormView::flush() {
 }
 
 void FormView::redrawAll() {
-  for (auto& view : views_) view->redraw();
+  // By index: showing a page builds its controls, which adds views.
+  for (std::size_t i = 0; i < views_.size(); ++i) views_[i]->redraw();
   multiPage_->redraw();
 }
 

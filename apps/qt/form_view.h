@@ -12,14 +12,15 @@
 namespace pellam::qt {
 
 // UserForm1 drawn with Qt: one widget per row of the control table, placed where the table
-// says. The form's change notification marks controls; they are redrawn once the handler that
-// changed them has finished, or at the next turn of the event loop.
+// says, made when its page is first shown or its widget is asked for. The form's change
+// notification marks controls; they are redrawn once the handler that changed them has
+// finished, or at the next turn of the event loop.
 class FormView final : public QWidget {
  public:
   explicit FormView(ui::UserForm1& form, QWidget* parent = nullptr);
   ~FormView() override;
 
-  QWidget* widgetFor(std::string_view name) const;
+  QWidget* widgetFor(std::string_view name);
   // Redraws every marked control now.
   void flush();
   // Told after a person's action has run, so that the window can note unsaved changes.
@@ -28,11 +29,16 @@ class FormView final : public QWidget {
  private:
   void changed(const ui::Control* control);
   void actionDone();
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  ControlView& add(ui::Control& control, QWidget* parent);
+  void build(const ui::Control* page);
+  void orderTabs(const ui::Control& page);
   void redrawAll();
 
   ui::UserForm1& form_;
   std::vector<std::unique_ptr<ControlView>> views_;  // table order
   std::unordered_map<const ui::Control*, ControlView*> byControl_;
+  std::unordered_map<const ui::Control*, std::vector<ui::Control*>> unbuilt_;  // by page, table order
   std::vector<ControlView*> dirty_;
   ControlView* multiPage_ = nullptr;
   bool flushQueued_ = false;

@@ -2,6 +2,7 @@
 #include <QListWidget>
 #include <QSignalBlocker>
 #include <QStringList>
+#include <QStringListModel>
 
 #include "control_view.h"
 
@@ -18,7 +19,9 @@ QStringList toQt(const std::vector<std::string>& items) {
 class ComboView final : public ControlView {
  public:
   ComboView(ui::ListControl& control, QWidget* parent, ActionDone done)
-      : control_(control), box_(new QComboBox(parent)) {
+      : control_(control), box_(new QComboBox(parent)), model_(new QStringListModel(box_)) {
+    // Lists of thousands of choices: plain strings fill far faster than the default item model.
+    box_->setModel(model_);
     box_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     box_->setMinimumContentsLength(kComboContentsLength);
     box_->setMaxVisibleItems(20);
@@ -33,8 +36,7 @@ class ComboView final : public ControlView {
     const QSignalBlocker block(box_);
     if (shown_ != control_.items()) {
       shown_ = control_.items();
-      box_->clear();
-      box_->addItems(toQt(shown_));
+      model_->setStringList(toQt(shown_));
     }
     box_->setCurrentIndex(control_.listIndex());
     box_->setVisible(control_.visible());
@@ -44,6 +46,7 @@ class ComboView final : public ControlView {
  private:
   ui::ListControl& control_;
   QComboBox* box_;
+  QStringListModel* model_;
   std::vector<std::string> shown_;
 };
 

@@ -32,6 +32,8 @@ MainWindow::MainWindow(QWidget* parent)
   scroll->setWidget(view_);
   scroll->setFrameShape(QFrame::NoFrame);
   scroll->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  // Tab goes from the form's last control to its tabs, not to the scroll area around them.
+  scroll->setFocusPolicy(Qt::NoFocus);
   setCentralWidget(scroll);
   buildMenu();
   session_.uploadPage.keepResponsive = [] { QCoreApplication::processEvents(); };

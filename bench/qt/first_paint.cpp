@@ -3,7 +3,10 @@
 //                                    every list filled; first_paint.sh subtracts the start.
 //   pellam_qt_bench open [N]         saves a maximal room-combine and station-link job and
 //                                    prints the median of N opens, drawn, in milliseconds.
+//   pellam_qt_bench maximal DIR      saves a maximal job of every mode into DIR as
+//                                    MaximalModeN.zpd, for pictures of the longest lists.
 #include <QApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPushButton>
@@ -48,6 +51,17 @@ int paint(const QString& job) {
   return QApplication::exec();
 }
 
+// A question would stop the run; say what it was and answer it.
+void answerQuestions(QTimer& timer) {
+  QObject::connect(&timer, &QTimer::timeout, [] {
+    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+      std::fprintf(stderr, "message: %s\n", box->text().toLocal8Bit().constData());
+      box->defaultButton() ? box->defaultButton()->click() : box->buttons().front()->click();
+    }
+  });
+  timer.start(50);
+}
+
 int open(int runs) {
   namespace fs = std::filesystem;
   const fs::path folder = fs::temp_directory_path() / ("pellam-qt-bench-" + std::to_string(QCoreApplication::applicationPid()));
@@ -55,15 +69,8 @@ int open(int runs) {
   qt::MainWindow window;
   window.show();
   window.start({});
-  // A question would stop the measurement; say what it was and answer it.
   QTimer answer;
-  QObject::connect(&answer, &QTimer::timeout, [] {
-    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-      std::fprintf(stderr, "message: %s\n", box->text().toLocal8Bit().constData());
-      box->defaultButton() ? box->defaultButton()->click() : box->buttons().front()->click();
-    }
-  });
-  answer.start(50);
+  answerQuestions(answer);
   for (int mode : {3, 5}) {
     bench::fillMaximalJob(window.session(), mode);
     const std::string zpd =
@@ -83,11 +90,25 @@ int open(int runs) {
   return 0;
 }
 
+int saveMaximal(const QString& dir) {
+  qt::MainWindow window;
+  window.start({});
+  QTimer answer;
+  answerQuestions(answer);
+  for (int mode = 1; mode <= 5; ++mode) {
+    bench::fillMaximalJob(window.session(), mode);
+    const std::string job = QDir(dir).filePath(QStringLiteral("MaximalMode%1.txt").arg(mode)).toStdString();
+    if (component::SaveJobSequence(window.session(), job, "Directory Not Found").empty()) return 1;
+  }
+  return 0;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
   const QStringList args = QApplication::arguments();
+  if (args.size() > 2 && args[1] == "maximal") return saveMaximal(args[2]);
   if (args.size() > 1 && args[1] == "open") return open(args.size() > 2 ? args[2].toInt() : 21);
   return paint(args.size() > 2 ? args[2] : QString());
 }

@@ -39,7 +39,7 @@ void fillMaximalJob(component::Session& s, int mode) {
     for (std::size_t s2 = 0; s2 < 150; ++s2) {
       const auto level = static_cast<std::int16_t>(s2 / 10 * 5);  // 15 ranges of 10 channels
       for (std::size_t r : {k, k + 16}) {
-        job.channelEmulation.records[r].Channels[s2] = static_cast<std::int16_t>(k * 120 + s2);
+        job.channelEmulation.records[r].Channels[s2] = static_cast<std::int16_t>((k - 1) * 120 + s2 + 1);
         job.channelEmulation.records[r].Levels[s2] = level;
       }
     }

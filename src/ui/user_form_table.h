@@ -7,7 +7,7 @@
 //
 // X(name, kind, parent, left, top, width, height, caption, visible)
 #define PELLAM_USERFORM1_CONTROLS(X)                                                        \
-  X(MultiPage1, MultiPage, "", 0, 0, 1000, 700, "", true)                                   \
+  X(MultiPage1, MultiPage, "", 0, 0, 1000, 670, "", true)                                   \
   X(Page1, Page, "MultiPage1", 0, 0, 0, 0, "Board Setup", true)                             \
   X(Page2, Page, "MultiPage1", 0, 0, 0, 0, "Channel Emulation", false)                       \
   X(Page3, Page, "MultiPage1", 0, 0, 0, 0, "Room Link", false)                               \
@@ -18,26 +18,26 @@
   X(Page8, Page, "MultiPage1", 0, 0, 0, 0, "Room Names", false)                              \
   X(Page9, Page, "MultiPage1", 0, 0, 0, 0, "Input Numbering", false)                         \
   /* Page1: board setup */                                                                  \
-  X(Label101, Label, "Page1", 12, 16, 130, 22, "Hardware Type", true)                      \
-  X(ComboBox48, ComboBox, "Page1", 150, 14, 240, 24, "", true)                              \
-  X(Label102, Label, "Page1", 12, 48, 130, 22, "Operating Mode", true)                     \
-  X(ComboBox1, ComboBox, "Page1", 150, 46, 240, 24, "", true)                               \
-  X(Label103, Label, "Page1", 12, 80, 130, 22, "Master / Slave", true)                     \
-  X(ComboBox2, ComboBox, "Page1", 150, 78, 240, 24, "", true)                               \
-  X(Label23, Label, "Page1", 12, 112, 130, 22, "Slave ID", false)                          \
-  X(ComboBox25, ComboBox, "Page1", 150, 110, 100, 24, "", false)                            \
-  X(Label104, Label, "Page1", 12, 144, 130, 22, "Input Action", true)                      \
-  X(ComboBox6, ComboBox, "Page1", 150, 142, 240, 24, "", true)                              \
-  X(Label162, Label, "Page1", 12, 176, 130, 22, "Master Inputs", false)                     \
-  X(ComboBox64, ComboBox, "Page1", 150, 174, 240, 24, "", false)                            \
+  X(Label101, Label, "Page1", 12, 16, 124, 22, "Hardware Type", true)                      \
+  X(ComboBox48, ComboBox, "Page1", 140, 14, 260, 24, "", true)                              \
+  X(Label102, Label, "Page1", 12, 48, 124, 22, "Operating Mode", true)                     \
+  X(ComboBox1, ComboBox, "Page1", 140, 46, 260, 24, "", true)                               \
+  X(Label103, Label, "Page1", 12, 80, 124, 22, "Master / Slave", true)                     \
+  X(ComboBox2, ComboBox, "Page1", 140, 78, 260, 24, "", true)                               \
+  X(Label23, Label, "Page1", 12, 112, 124, 22, "Slave ID", false)                          \
+  X(ComboBox25, ComboBox, "Page1", 140, 110, 100, 24, "", false)                            \
+  X(Label104, Label, "Page1", 12, 144, 124, 22, "Input Action", true)                      \
+  X(ComboBox6, ComboBox, "Page1", 140, 142, 260, 24, "", true)                              \
+  X(Label162, Label, "Page1", 12, 176, 124, 22, "Master Inputs", false)                     \
+  X(ComboBox64, ComboBox, "Page1", 140, 174, 260, 24, "", false)                            \
   X(CommandButton4, CommandButton, "Page1", 12, 212, 200, 30, "Confirm Board Setup", true) \
   X(Label105, Label, "Page1", 12, 252, 200, 22, "Board Setup Summary", true)               \
   X(TextBox5, TextBox, "Page1", 12, 274, 378, 150, "", true)                                \
   X(Frame29, Frame, "Page1", 410, 10, 280, 130, "Input Scan", false)                        \
   X(OptionButton4, OptionButton, "Frame29", 12, 22, 250, 22, "Input Scan Enabled", true)   \
   X(OptionButton6, OptionButton, "Frame29", 12, 46, 250, 22, "Input Scan Disabled", true)  \
-  X(Label67, Label, "Frame29", 12, 82, 90, 22, "Refresh Rate", false)                      \
-  X(ComboBox55, ComboBox, "Frame29", 110, 80, 150, 24, "", false)                           \
+  X(Label67, Label, "Frame29", 12, 82, 100, 22, "Refresh Rate", false)                      \
+  X(ComboBox55, ComboBox, "Frame29", 116, 80, 150, 24, "", false)                           \
   X(Frame31, Frame, "Page1", 410, 150, 280, 110, "Board Options", false)                    \
   X(OptionButton7, OptionButton, "Frame31", 12, 22, 250, 22, "Option 1", true)             \
   X(OptionButton8, OptionButton, "Frame31", 12, 46, 250, 22, "Option 2", true)             \
@@ -122,11 +122,11 @@
   X(Label38, Label, "Page4", 12, 116, 300, 22, "", true)                                    \
   X(ListBox1, ListBox, "Page4", 12, 142, 490, 490, "", true)                                \
   X(Frame101, Frame, "Page4", 520, 10, 460, 330, "Room Links", true)                        \
-  X(Label120, Label, "Frame101", 12, 26, 100, 22, "Input", true)                           \
+  X(Label120, Label, "Frame101", 12, 26, 104, 22, "Input", true)                           \
   X(ComboBox30, ComboBox, "Frame101", 120, 24, 160, 24, "", true)                           \
-  X(Label121, Label, "Frame101", 12, 58, 100, 22, "First Room", true)                      \
+  X(Label121, Label, "Frame101", 12, 58, 104, 22, "First Room", true)                      \
   X(ComboBox31, ComboBox, "Frame101", 120, 56, 160, 24, "", true)                           \
-  X(Label122, Label, "Frame101", 12, 90, 100, 22, "Second Room", true)                     \
+  X(Label122, Label, "Frame101", 12, 90, 104, 22, "Second Room", true)                     \
   X(ComboBox32, ComboBox, "Frame101", 120, 88, 160, 24, "", true)                           \
   X(CommandButton7, CommandButton, "Frame101", 300, 22, 140, 28, "Link Rooms", true)       \
   X(CommandButton20, CommandButton, "Frame101", 300, 56, 140, 28, "Delete Link", true)     \
@@ -143,8 +143,8 @@
   X(Label127, Label, "Page5", 12, 144, 120, 22, "Personality", true)                       \
   X(ComboBox44, ComboBox, "Page5", 140, 142, 160, 24, "", true)                             \
   X(CommandButton17, CommandButton, "Page5", 12, 180, 160, 30, "Show Entry", true)         \
-  X(CommandButton1, CommandButton, "Page5", 320, 14, 200, 30, "Add To KX Input", true)    \
-  X(CommandButton24, CommandButton, "Page5", 320, 50, 200, 30, "Add To Pellam Input", true) \
+  X(CommandButton1, CommandButton, "Page5", 340, 14, 200, 30, "Add To KX Input", true)    \
+  X(CommandButton24, CommandButton, "Page5", 340, 50, 200, 30, "Add To Pellam Input", true) \
   X(Label41, Label, "Page5", 12, 226, 470, 22, "KX Input: ", true)                          \
   X(ListBox5, ListBox, "Page5", 12, 250, 470, 380, "", true)                                \
   X(Label151, Label, "Page5", 500, 226, 470, 22, "KX Input: ", true)                        \
@@ -159,28 +159,28 @@
   X(CommandButton8, CommandButton, "Page6", 12, 116, 140, 30, "Add Station", true)          \
   X(CommandButton21, CommandButton, "Page6", 160, 116, 140, 30, "Delete NetID", true)       \
   X(ListBox3, ListBox, "Page6", 12, 200, 300, 430, "", true)                                \
-  X(Frame102, Frame, "Page6", 330, 10, 320, 450, "Station Personalities", true)             \
-  X(Label131, Label, "Frame102", 12, 26, 100, 22, "Series", true)                          \
-  X(ComboBox17, ComboBox, "Frame102", 120, 24, 180, 24, "", true)                           \
-  X(Label132, Label, "Frame102", 12, 58, 100, 22, "Personality", true)                     \
-  X(ComboBox18, ComboBox, "Frame102", 120, 56, 180, 24, "", true)                           \
-  X(Label133, Label, "Frame102", 12, 90, 100, 22, "NetID", true)                           \
-  X(ComboBox19, ComboBox, "Frame102", 120, 88, 180, 24, "", true)                           \
-  X(Label134, Label, "Frame102", 12, 122, 100, 22, "Room", true)                           \
-  X(ComboBox43, ComboBox, "Frame102", 120, 120, 180, 24, "", true)                          \
-  X(CommandButton14, CommandButton, "Frame102", 12, 156, 140, 30, "Add Personality", true)  \
-  X(CommandButton15, CommandButton, "Frame102", 160, 156, 140, 30, "Delete NetID", true)    \
-  X(ListBox7, ListBox, "Frame102", 12, 196, 288, 240, "", true)                             \
-  X(Frame103, Frame, "Page6", 670, 10, 310, 450, "Room Links", true)                        \
-  X(Label135, Label, "Frame103", 12, 26, 100, 22, "Input", true)                           \
-  X(ComboBox20, ComboBox, "Frame103", 120, 24, 170, 24, "", true)                           \
-  X(Label136, Label, "Frame103", 12, 58, 100, 22, "First Room", true)                      \
-  X(ComboBox22, ComboBox, "Frame103", 120, 56, 170, 24, "", true)                           \
-  X(Label137, Label, "Frame103", 12, 90, 100, 22, "Second Room", true)                     \
-  X(ComboBox23, ComboBox, "Frame103", 120, 88, 170, 24, "", true)                           \
-  X(CommandButton3, CommandButton, "Frame103", 12, 122, 140, 28, "Link Rooms", true)       \
-  X(CommandButton16, CommandButton, "Frame103", 160, 122, 140, 28, "Delete Link", true)    \
-  X(ListBox6, ListBox, "Frame103", 12, 158, 286, 280, "", true)                             \
+  X(Frame102, Frame, "Page6", 330, 10, 650, 320, "Station Personalities", true)             \
+  X(Label131, Label, "Frame102", 12, 26, 110, 22, "Series", true)                          \
+  X(ComboBox17, ComboBox, "Frame102", 130, 24, 180, 24, "", true)                           \
+  X(Label132, Label, "Frame102", 12, 58, 110, 22, "Personality", true)                     \
+  X(ComboBox18, ComboBox, "Frame102", 130, 56, 180, 24, "", true)                           \
+  X(Label133, Label, "Frame102", 12, 90, 110, 22, "NetID", true)                           \
+  X(ComboBox19, ComboBox, "Frame102", 130, 88, 180, 24, "", true)                           \
+  X(Label134, Label, "Frame102", 12, 122, 110, 22, "Room", true)                           \
+  X(ComboBox43, ComboBox, "Frame102", 130, 120, 180, 24, "", true)                          \
+  X(CommandButton14, CommandButton, "Frame102", 350, 22, 150, 28, "Add Personality", true)  \
+  X(CommandButton15, CommandButton, "Frame102", 350, 56, 150, 28, "Delete NetID", true)    \
+  X(ListBox7, ListBox, "Frame102", 12, 156, 626, 152, "", true)                             \
+  X(Frame103, Frame, "Page6", 330, 340, 650, 320, "Room Links", true)                        \
+  X(Label135, Label, "Frame103", 12, 26, 110, 22, "Input", true)                           \
+  X(ComboBox20, ComboBox, "Frame103", 130, 24, 180, 24, "", true)                           \
+  X(Label136, Label, "Frame103", 12, 58, 110, 22, "First Room", true)                      \
+  X(ComboBox22, ComboBox, "Frame103", 130, 56, 180, 24, "", true)                           \
+  X(Label137, Label, "Frame103", 12, 90, 110, 22, "Second Room", true)                     \
+  X(ComboBox23, ComboBox, "Frame103", 130, 88, 180, 24, "", true)                           \
+  X(CommandButton3, CommandButton, "Frame103", 350, 22, 150, 28, "Link Rooms", true)       \
+  X(CommandButton16, CommandButton, "Frame103", 350, 56, 150, 28, "Delete Link", true)    \
+  X(ListBox6, ListBox, "Frame103", 12, 124, 626, 184, "", true)                             \
   /* Page9: input numbering */                                                              \
   X(Label160, Label, "Page9", 12, 16, 120, 22, "Input", true)                               \
   X(ComboBox110, ComboBox, "Page9", 140, 14, 160, 24, "", true)                             \
@@ -195,10 +195,10 @@
   X(TextBox103, TextBox, "Page8", 180, 14, 250, 24, "", true)                               \
   X(Label146, Label, "Page8", 12, 48, 160, 22, "Room", true)                               \
   X(ComboBox101, ComboBox, "Page8", 180, 46, 100, 24, "", true)                             \
-  X(CommandButton33, CommandButton, "Page8", 300, 44, 130, 28, "Label Room", true)         \
+  X(CommandButton33, CommandButton, "Page8", 300, 46, 130, 24, "Label Room", true)         \
   X(Label147, Label, "Page8", 12, 80, 160, 22, "Group", true)                              \
   X(ComboBox102, ComboBox, "Page8", 180, 78, 100, 24, "", true)                             \
-  X(CommandButton35, CommandButton, "Page8", 300, 76, 130, 28, "Label Group", true)        \
+  X(CommandButton35, CommandButton, "Page8", 300, 78, 130, 24, "Label Group", true)        \
   X(ListBox12, ListBox, "Page8", 12, 120, 300, 300, "", true)                               \
   X(ComboBox58, ComboBox, "Page8", 330, 120, 300, 24, "", true)                             \
   X(Label148, Label, "Page8", 12, 430, 150, 22, "Room", true)                               \

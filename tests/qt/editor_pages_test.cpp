@@ -1,137 +1,152 @@
-#include <QGroupBox>
-#include <QListWidget>
+#include <QMessageBox>
 #include <gmock/gmock.h>
+#include <variant>
 
 #include "form_driver.h"
 
 namespace pellam::qt::testing {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
+using ::testing::ElementsAreArray;
 
-TEST(EditorPageWidgets, ChannelEmulationAddsARangeAtALevel) {
+// What a person does on a page, one action a step.
+struct Choose {
+  const char* combo;
+  int index;
+};
+struct Click {
+  const char* button;
+};
+struct ClickLine {
+  const char* list;
+  int row;
+};
+struct Type {
+  const char* textBox;
+  const char* text;
+};
+// The answer for the next message box that offers a choice.
+struct Answer {
+  QMessageBox::StandardButton button;
+};
+using Step = std::variant<Choose, Click, ClickLine, Type, Answer>;
+
+void act(FormDriver& app, const Choose& s) { app.choose(s.combo, s.index); }
+void act(FormDriver& app, const Click& s) { app.click(s.button); }
+void act(FormDriver& app, const ClickLine& s) { app.clickLine(s.list, s.row); }
+void act(FormDriver& app, const Type& s) { app.type(s.textBox, s.text); }
+void act(FormDriver& app, const Answer& s) { app.boxes.queue(s.button); }
+
+struct PageCase {
+  const char* name;
+  int mode;
+  std::vector<Step> onBoardPage;  // after the board is confirmed, before the page is shown
+  const char* page;
+  std::vector<Step> steps;
+  std::vector<std::string> boxes;
+  const char* list;
+  std::vector<QString> lines;
+  std::vector<std::pair<const char*, QString>> captions;  // what labels and frames show at the end
+};
+
+void PrintTo(const PageCase& c, std::ostream* out) { *out << c.name; }
+
+const PageCase kPages[] = {
+    {"ChannelEmulationAddsARangeAtALevel", 1, {}, "Page2",
+     {Choose{"ComboBox26", 2}, Choose{"ComboBox27", 61}, Choose{"ComboBox49", 1}, Choose{"ComboBox45", 10},
+      Choose{"ComboBox46", 3}, Choose{"ComboBox28", 40}, Click{"CommandButton19"}},
+     {},
+     "ListBox8",
+     {"Channel :10 @ % 40", "Channel :11 @ % 40", "Channel :12 @ % 40", "Channel :13 @ % 40"},
+     {{"Label43", "Fade Rate: 1 Minutes"}}},
+    {"RoomLinkKeepsTheListWhenTheQuestionIsCancelled", 2, {}, "Page3",
+     {Choose{"ComboBox7", 3}, Choose{"ComboBox8", 2}, Choose{"ComboBox9", 5}, Click{"CommandButton2"},
+      Choose{"ComboBox7", 1}, Choose{"ComboBox8", 4}, Choose{"ComboBox9", 4}, Answer{QMessageBox::Cancel},
+      Click{"CommandButton2"}},
+     {"msgbox \"No Entry for Input 3\" -> OK", "msgbox \"No Entry for Input 1\" -> OK",
+      "msgbox \"Link Error Room Numbers Equal\" -> Cancel"},
+     "ListBox4",
+     {"Input:3  Links Rooms:  2 and 5"},
+     {}},
+    {"RoomCombineTakesAChannelFromALongList", 3, {}, "Page4",
+     // Far down a list of thousands.
+     {Choose{"ComboBox36", 5}, Choose{"ComboBox37", 3}, Choose{"ComboBox38", 1500}, Click{"CommandButton11"}},
+     {},
+     "ListBox1",
+     {"Room 5,  Group 3, Channel:1500"},
+     {}},
+    {"PresetEmulationAddsAStationToAKxInput", 4, {}, "Page5",
+     {Choose{"ComboBox41", 4}, Choose{"ComboBox42", 2}, Choose{"ComboBox39", 1}, Choose{"ComboBox40", 16},
+      Choose{"ComboBox44", 1}, Click{"CommandButton1"}},
+     {"msgbox \"No entries found\" -> OK"},
+     "ListBox5",
+     {"T3100 LCD  NetId: 5  Personality  2  Max On"},
+     {{"Label41", "KX Input: 2"}}},
+    {"StationLinkAddsAStation", 5, {}, "Page6",
+     {Choose{"ComboBox35", 12}, Choose{"ComboBox34", 2}, Choose{"ComboBox33", 4}, Click{"CommandButton8"}},
+     {},
+     "ListBox3",
+     {"Room: 4 T6600 LCD  NetId: 12"},
+     {}},
+    {"StationLinkDeletesAfterYes", 5, {}, "Page6",
+     {Choose{"ComboBox35", 12}, Choose{"ComboBox34", 2}, Choose{"ComboBox33", 4}, Click{"CommandButton8"},
+      ClickLine{"ListBox3", 0}, Answer{QMessageBox::Yes}, Click{"CommandButton21"}},
+     {"msgbox \"Delete NetId 12\" -> Yes"},
+     "ListBox3",
+     {},
+     {}},
+    {"RemoteCommandsAddAButtonCommand", 1, {}, "Page7",
+     {Click{"OptionButton13"}, Choose{"ComboBox68", 7}, Choose{"ComboBox69", 3}, Choose{"ComboBox70", 2},
+      ClickLine{"ListBox17", 3}, Click{"CommandButton38"}},
+     {"msgbox \"No Entries\" -> OK"},
+     "ListBox19",
+     {"NetId 7 Btn 4"},
+     {{"Frame104", "Remote To Buttons"}, {"Label70", "Input 3 Page 2"}}},
+    {"NamingLabelsARoomFromTypedText", 3, {}, "Page8",
+     {Type{"TextBox103", "Lobby"}, Choose{"ComboBox101", 4}, Click{"CommandButton33"}},
+     {},
+     "ListBox12",
+     {"4: Lobby"},
+     {}},
+        // The input scan brings the numbering page.
+    {"InputNumberingNumbersAnInput", 2, {Click{"OptionButton4"}, Choose{"ComboBox55", 30}, Click{"CommandButton4"}},
+     "Page9",
+     {Choose{"ComboBox110", 3}, Choose{"ComboBox111", 41}, Click{"CommandButton110"}},
+     {},
+     "ListBox101",
+     {"Input 3: Room 41"},
+     {}},
+};
+
+class EditorPageWidgets : public ::testing::TestWithParam<PageCase> {};
+
+// Each editor page driven through its widgets as a person would: the boxes they are shown, and
+// the list and captions they end up with, drawn from the form.
+TEST_P(EditorPageWidgets, PersonSeesWhatThePageDid) {
+  const PageCase& c = GetParam();
   FormDriver app;
-  app.confirmBoard(1);
-  app.showPage("Page2");
-  app.choose("ComboBox26", 2);
-  app.choose("ComboBox27", 61);
-  app.choose("ComboBox49", 1);
-  app.choose("ComboBox45", 10);
-  app.choose("ComboBox46", 3);
-  app.choose("ComboBox28", 40);
-  app.click("CommandButton19");
-  EXPECT_THAT(app.boxes.seen, IsEmpty());
-  EXPECT_EQ(app.shownText("Label43"), "Fade Rate: 1 Minutes");
-  EXPECT_THAT(app.lines("ListBox8"), ElementsAre("Channel :10 @ % 40", "Channel :11 @ % 40", "Channel :12 @ % 40",
-                                                 "Channel :13 @ % 40"));
-  EXPECT_EQ(app.form().ListBox8.count(), 4);
+  app.confirmBoard(c.mode);
+  auto run = [&](const std::vector<Step>& steps) {
+    for (const Step& step : steps) {
+      std::visit([&](const auto& s) { act(app, s); }, step);
+      if (HasFatalFailure()) return false;
+    }
+    return true;
+  };
+  if (!run(c.onBoardPage)) return;
+  app.showPage(c.page);
+  if (!run(c.steps)) return;
+  EXPECT_THAT(app.boxes.seen, ElementsAreArray(c.boxes));
+  EXPECT_THAT(app.lines(c.list), ElementsAreArray(c.lines));
+  QStringList held;
+  for (const std::string& line : static_cast<ui::ListControl*>(app.form().find(c.list))->items())
+    held << QString::fromStdString(line);
+  EXPECT_EQ(app.lines(c.list), held) << "the list shows what the form holds";
+  for (const auto& [control, caption] : c.captions) EXPECT_EQ(app.shownText(control), caption) << control;
 }
 
-TEST(EditorPageWidgets, RoomLinkKeepsTheListWhenTheQuestionIsCancelled) {
-  FormDriver app;
-  app.confirmBoard(2);
-  app.showPage("Page3");
-  app.choose("ComboBox7", 3);
-  app.choose("ComboBox8", 2);
-  app.choose("ComboBox9", 5);
-  app.click("CommandButton2");
-  app.choose("ComboBox7", 1);
-  app.choose("ComboBox8", 4);
-  app.choose("ComboBox9", 4);
-  app.boxes.queue(QMessageBox::Cancel);
-  app.click("CommandButton2");
-  EXPECT_THAT(app.boxes.seen,
-              ElementsAre("msgbox \"No Entry for Input 3\" -> OK", "msgbox \"No Entry for Input 1\" -> OK",
-                          "msgbox \"Link Error Room Numbers Equal\" -> Cancel"));
-  EXPECT_THAT(app.lines("ListBox4"), ElementsAre("Input:3  Links Rooms:  2 and 5"));
-}
-
-TEST(EditorPageWidgets, RoomCombineTakesAChannelFromALongList) {
-  FormDriver app;
-  app.confirmBoard(3);
-  app.showPage("Page4");
-  app.choose("ComboBox36", 5);
-  app.choose("ComboBox37", 3);
-  app.choose("ComboBox38", 1500);  // far down a list of thousands
-  app.click("CommandButton11");
-  EXPECT_THAT(app.boxes.seen, IsEmpty());
-  EXPECT_THAT(app.lines("ListBox1"), ElementsAre("Room 5,  Group 3, Channel:1500"));
-}
-
-TEST(EditorPageWidgets, PresetEmulationAddsAStationToAKxInput) {
-  FormDriver app;
-  app.confirmBoard(4);
-  app.showPage("Page5");
-  app.choose("ComboBox41", 4);
-  app.choose("ComboBox42", 2);
-  app.choose("ComboBox39", 1);
-  app.choose("ComboBox40", 16);
-  app.choose("ComboBox44", 1);
-  app.click("CommandButton1");
-  EXPECT_THAT(app.boxes.seen, ElementsAre("msgbox \"No entries found\" -> OK"));
-  EXPECT_EQ(app.shownText("Label41"), "KX Input: 2");
-  EXPECT_THAT(app.lines("ListBox5"), ElementsAre("T3100 LCD  NetId: 5  Personality  2  Max On"));
-}
-
-TEST(EditorPageWidgets, StationLinkAddsAndDeletesAfterYes) {
-  FormDriver app;
-  app.confirmBoard(5);
-  app.showPage("Page6");
-  app.choose("ComboBox35", 12);
-  app.choose("ComboBox34", 2);
-  app.choose("ComboBox33", 4);
-  app.click("CommandButton8");
-  EXPECT_THAT(app.lines("ListBox3"), ElementsAre("Room: 4 T6600 LCD  NetId: 12"));
-  app.clickLine("ListBox3", 0);
-  app.boxes.queue(QMessageBox::Yes);
-  app.click("CommandButton21");
-  EXPECT_THAT(app.boxes.seen, ElementsAre("msgbox \"Delete NetId 12\" -> Yes"));
-  EXPECT_THAT(app.lines("ListBox3"), IsEmpty());
-}
-
-TEST(EditorPageWidgets, RemoteCommandsAddAButtonCommand) {
-  FormDriver app;
-  app.confirmBoard(1);
-  app.showPage("Page7");
-  app.click("OptionButton13");
-  EXPECT_EQ(app.shownText("Frame104"), "Remote To Buttons");
-  app.choose("ComboBox68", 7);
-  app.choose("ComboBox69", 3);
-  app.choose("ComboBox70", 2);
-  app.clickLine("ListBox17", 3);
-  app.click("CommandButton38");
-  EXPECT_THAT(app.boxes.seen, ElementsAre("msgbox \"No Entries\" -> OK"));
-  EXPECT_EQ(app.shownText("Label70"), "Input 3 Page 2");
-  EXPECT_THAT(app.lines("ListBox19"), ElementsAre("NetId 7 Btn 4"));
-}
-
-TEST(EditorPageWidgets, NamingLabelsARoomFromTypedText) {
-  FormDriver app;
-  app.confirmBoard(3);
-  app.showPage("Page8");
-  app.type("TextBox103", "Lobby");
-  EXPECT_EQ(app.form().TextBox103.text(), "Lobby");
-  app.choose("ComboBox101", 4);
-  app.click("CommandButton33");
-  EXPECT_THAT(app.boxes.seen, IsEmpty());
-  EXPECT_THAT(app.lines("ListBox12"), ElementsAre("4: Lobby"));
-}
-
-TEST(EditorPageWidgets, InputNumberingAppearsWithInputScan) {
-  FormDriver app;
-  app.confirmBoard(2);
-  EXPECT_FALSE(app.tabShown(8));
-  app.click("OptionButton4");
-  app.choose("ComboBox55", 30);
-  app.click("CommandButton4");
-  app.showPage("Page9");
-  app.choose("ComboBox110", 3);
-  app.choose("ComboBox111", 41);
-  app.click("CommandButton110");
-  EXPECT_THAT(app.boxes.seen, IsEmpty());
-  EXPECT_THAT(app.lines("ListBox101"), ElementsAre("Input 3: Room 41"));
-}
+INSTANTIATE_TEST_SUITE_P(Pages, EditorPageWidgets, ::testing::ValuesIn(kPages),
+                         [](const auto& info) { return std::string(info.param.name); });
 
 }  // namespace
 }  // namespace pellam::qt::testing

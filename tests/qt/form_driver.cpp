@@ -10,6 +10,9 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QTabWidget>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -131,6 +134,62 @@ QString FormDriver::shownText(const char* control) {
   if (auto* group = qobject_cast<QGroupBox*>(w)) return group->title();
   if (auto* button = qobject_cast<QAbstractButton*>(w)) return button->text();
   return {};
+}
+
+namespace {
+
+bool fits(const QFontMetrics& metrics, const QString& text, int width) {
+  for (const QString& line : text.split('\n'))
+    if (metrics.horizontalAdvance(line) > width) return false;
+  return true;
+}
+
+// Every text the widget shows that it cannot show whole, across or down.
+QStringList cutOffTexts(QWidget* w) {
+  QStringList cut;
+  const QFontMetrics metrics = w->fontMetrics();
+  if (auto* label = qobject_cast<QLabel*>(w)) {
+    const QRect room = label->contentsRect();
+    const QRect needed = metrics.boundingRect(room, Qt::TextWordWrap * label->wordWrap(), label->text());
+    if (needed.width() > room.width() || needed.height() > room.height()) cut << label->text();
+  } else if (auto* button = qobject_cast<QAbstractButton*>(w)) {
+    if (button->sizeHint().width() > button->width() || metrics.height() > button->height()) cut << button->text();
+  } else if (auto* group = qobject_cast<QGroupBox*>(w)) {
+    // The title stands on the frame, a few pixels in from each side.
+    if (metrics.horizontalAdvance(group->title()) + 16 > group->width()) cut << group->title();
+  } else if (auto* box = qobject_cast<QComboBox*>(w)) {
+    QStyleOptionComboBox option;
+    option.initFrom(box);
+    const QRect room = box->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, box);
+    for (int i = 0; i < box->count(); ++i)
+      if (!fits(metrics, box->itemText(i), room.width()) || metrics.height() > room.height()) cut << box->itemText(i);
+  } else if (auto* list = qobject_cast<QListWidget*>(w)) {
+    // A long list shows its scroll bar beside the lines; the lines keep a small margin.
+    int room = list->contentsRect().width() - 6;
+    if (list->count() * list->sizeHintForRow(0) > list->contentsRect().height())
+      room -= list->verticalScrollBar()->sizeHint().width();
+    for (int i = 0; i < list->count(); ++i)
+      if (!fits(metrics, list->item(i)->text(), room)) cut << list->item(i)->text();
+  } else if (auto* edit = qobject_cast<QLineEdit*>(w)) {
+    if (metrics.height() > edit->contentsRect().height() - 2) cut << edit->text();
+  }
+  return cut;
+}
+
+}  // namespace
+
+QStringList FormDriver::cutOffOn(const char* page) {
+  showPage(page);
+  QWidget* pageWidget = widget(page);
+  QStringList out;
+  for (const ui::Control* control : form().controls()) {
+    QWidget* w = window_->form().widgetFor(control->name());
+    if (!pageWidget->isAncestorOf(w) || !w->isVisibleTo(pageWidget)) continue;
+    const QString name = QString::fromUtf8(control->name().data(), static_cast<qsizetype>(control->name().size()));
+    if (!w->parentWidget()->rect().contains(w->geometry())) out << name + ": outside its page or frame";
+    for (const QString& text : cutOffTexts(w)) out << name + ": " + text;
+  }
+  return out;
 }
 
 bool FormDriver::tabShown(int page) { return as<QTabWidget>("MultiPage1")->isTabVisible(page); }

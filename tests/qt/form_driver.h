@@ -54,6 +54,10 @@ class FormDriver {
   QStringList lines(const char* listBox);
   QString shownText(const char* control);
   bool tabShown(int page);
+  // Shows the page and names what on it a person could not read whole, one "Name: text" each:
+  // captions wider than their control, combo items wider than the box, list lines wider than
+  // the list, controls outside their page or frame.
+  QStringList cutOffOn(const char* page);
   // Hardware, mode, master and input action on the board page, then "Confirm Board Setup".
   void confirmBoard(int mode);
 

@@ -41,9 +41,7 @@ FormView::FormView(ui::UserForm1& form, QWidget* parent) : QWidget(parent), form
       if (spec.kind == ui::Kind::Page) views_.back()->widget()->installEventFilter(this);
       continue;
     }
-    const ui::Control* page = control;
-    while (page->kind() != ui::Kind::Page) page = form_.find(page->spec().parent);
-    unbuilt_[page].push_back(control);
+    unbuilt_[pageOf(*control)].push_back(control);
   }
   // The tabs hold the pages; the window is as large as they are.
   const QSize tabs = multiPage_->widget()->minimumSizeHint();
@@ -55,6 +53,12 @@ FormView::FormView(ui::UserForm1& form, QWidget* parent) : QWidget(parent), form
 }
 
 FormView::~FormView() { form_.setObserver(nullptr); }
+
+const ui::Control* FormView::pageOf(const ui::Control& control) const {
+  const ui::Control* page = &control;
+  while (page->kind() != ui::Kind::Page) page = form_.find(page->spec().parent);
+  return page;
+}
 
 ControlView& FormView::add(ui::Control& control, QWidget* parent) {
   auto view = makeView(control, parent, [this] { actionDone(); });
@@ -109,9 +113,7 @@ QWidget* FormView::widgetFor(std::string_view name) {
   const ui::Control* control = form_.find(name);
   if (!control) return nullptr;
   if (!byControl_.contains(control)) {
-    const ui::Control* page = control;
-    while (page->kind() != ui::Kind::Page) page = form_.find(page->spec().parent);
-    build(page);
+    build(pageOf(*control));
   }
   return byControl_.at(control)->widget();
 }

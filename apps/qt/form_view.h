@@ -30,6 +30,7 @@ class FormView final : public QWidget {
   void changed(const ui::Control* control);
   void actionDone();
   bool eventFilter(QObject* watched, QEvent* event) override;
+  const ui::Control* pageOf(const ui::Control& control) const;
   ControlView& add(ui::Control& control, QWidget* parent);
   void build(const ui::Control* page);
   void orderTabs(const ui::Control& page);

@@ -21,8 +21,7 @@ class CommandView final : public ControlView {
   QWidget* widget() const override { return button_; }
   void redraw() override {
     button_->setText(QString::fromStdString(control_.caption()));
-    button_->setVisible(control_.visible());
-    button_->setEnabled(control_.enabled());
+    showState(*button_, control_);
   }
 
  private:
@@ -46,8 +45,7 @@ class OptionView final : public ControlView {
     const QSignalBlocker block(button_);
     button_->setText(QString::fromStdString(control_.caption()));
     button_->setChecked(control_.value());
-    button_->setVisible(control_.visible());
-    button_->setEnabled(control_.enabled());
+    showState(*button_, control_);
   }
 
  private:

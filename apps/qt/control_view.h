@@ -21,6 +21,9 @@ class ControlView {
   virtual QWidget* childParent() const { return widget(); }
 };
 
+// The control's Visible and Enabled onto its widget: every view's redraw ends with them.
+void showState(QWidget& widget, const ui::Control& control);
+
 // Told after every action a person took, once the control's handler has run.
 using ActionDone = std::function<void()>;
 

@@ -39,8 +39,7 @@ class ComboView final : public ControlView {
       model_->setStringList(toQt(shown_));
     }
     box_->setCurrentIndex(control_.listIndex());
-    box_->setVisible(control_.visible());
-    box_->setEnabled(control_.enabled());
+    showState(*box_, control_);
   }
 
  private:
@@ -72,8 +71,7 @@ class ListBoxView final : public ControlView {
     }
     list_->setCurrentRow(control_.listIndex());
     if (control_.listIndex() < 0) list_->clearSelection();
-    list_->setVisible(control_.visible());
-    list_->setEnabled(control_.enabled());
+    showState(*list_, control_);
   }
 
  private:

@@ -21,8 +21,7 @@ class MultiPageView final : public ControlView {
   void redraw() override {
     const QSignalBlocker block(tabs_);
     tabs_->setCurrentIndex(control_.value());
-    tabs_->setVisible(control_.visible());
-    tabs_->setEnabled(control_.enabled());
+    showState(*tabs_, control_);
   }
 
  private:

@@ -29,8 +29,7 @@ class LineView final : public ControlView {
     const QSignalBlocker block(edit_);
     const QString text = QString::fromStdString(control_.text());
     if (edit_->text() != text) edit_->setText(text);
-    edit_->setVisible(control_.visible());
-    edit_->setEnabled(control_.enabled());
+    showState(*edit_, control_);
   }
 
  private:
@@ -53,8 +52,7 @@ class BlockView final : public ControlView {
     const QSignalBlocker block(edit_);
     const QString text = toDisplay(control_.text());
     if (edit_->toPlainText() != text) edit_->setPlainText(text);
-    edit_->setVisible(control_.visible());
-    edit_->setEnabled(control_.enabled());
+    showState(*edit_, control_);
   }
 
  private:
@@ -71,8 +69,7 @@ class LabelView final : public ControlView {
   QWidget* widget() const override { return label_; }
   void redraw() override {
     label_->setText(toDisplay(control_.caption()));
-    label_->setVisible(control_.visible());
-    label_->setEnabled(control_.enabled());
+    showState(*label_, control_);
   }
 
  private:
@@ -86,8 +83,7 @@ class FrameView final : public ControlView {
   QWidget* widget() const override { return box_; }
   void redraw() override {
     box_->setTitle(QString::fromStdString(control_.caption()));
-    box_->setVisible(control_.visible());
-    box_->setEnabled(control_.enabled());
+    showState(*box_, control_);
   }
 
  private:

@@ -1,5 +1,7 @@
 #include "component/form_members.h"
 
+#include "ui/unicode_text.h"
+
 namespace pellam::component {
 
 void LoadUserForm(Session& s) {
@@ -42,7 +44,7 @@ std::string ChooseFile(Session& s, const std::string& filter) {
 
 std::string ReturnFileName(const std::string& filePath, const std::string& name) {
   if (filePath.empty() || name.empty()) return {};
-  return name.size() >= filePath.size() ? filePath : filePath.substr(filePath.size() - name.size());
+  return ui::rightUtf16Units(filePath, ui::utf16Length(name));
 }
 
 }  // namespace pellam::component

@@ -142,12 +142,14 @@ std::string roomCombineReport(Session& s) {
 
 std::string SaveJobSequence(Session& s, const std::string& jobPath, const std::string& noFolder) {
   packSettings(s);
-  if (files::FolderCheck(jobPath, files::MissingFolder::OfferToCreate, s.dialogs()).empty()) {
+  files::CreatedFolders created;
+  if (files::FolderCheck(jobPath, files::MissingFolder::OfferToCreate, s.dialogs(), &created).empty()) {
     s.dialogs().msgBox(noFolder, ui::Buttons::OK);
     return {};
   }
   const std::string zpd = files::SaveJob(jobPath, s.inputBank, s.job, s.image, s.dialogs(), [&] { return roomCombineReport(s); });
   if (!zpd.empty()) {
+    created.keep();
     s.currentJobFile = zpd;
     s.form.Label144.setCaption(zpd);
     if (s.job.board.OperatingMode == 3 && !s.shell().openInViewer(files::reportPath(jobPath))) {

@@ -5,6 +5,8 @@
 #include <system_error>
 
 #include "files/job_paths.h"
+#include "files/replace_files.h"
+#include "files/save_job.h"
 #include "image/memory_map.h"
 
 namespace pellam::files {
@@ -13,6 +15,7 @@ std::int16_t CheckFileType(const std::string& path, image::EepromImage& image, u
   std::error_code ec;
   const auto file = fsPath(path);
   std::ifstream in;
+  if (!path.empty()) RecoverInterruptedSave(jobPrefix(path));
   if (!path.empty() && std::filesystem::is_regular_file(file, ec)) in.open(file, std::ios::binary);
   if (!in.is_open()) {
     dialogs.msgBox("Cannot Open File: " + path, ui::Buttons::OK);

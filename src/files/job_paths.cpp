@@ -37,25 +37,34 @@ bool isFolder(const std::string& folder) {
 }
 }  // namespace
 
-std::string FolderCheck(const std::string& jobPath, MissingFolder missing, ui::Dialogs& dialogs) {
+CreatedFolders::~CreatedFolders() {
+  std::error_code ec;
+  for (auto level = levels_.rbegin(); level != levels_.rend(); ++level) fs::remove(*level, ec);
+}
+
+std::string FolderCheck(const std::string& jobPath, MissingFolder missing, ui::Dialogs& dialogs,
+                        CreatedFolders* created) {
   const std::string folder = folderPart(jobPath);
   if (folder.empty()) return {};
   if (isFolder(folder)) return folder;
   if (missing == MissingFolder::Refuse) return {};
   if (dialogs.msgBox("Folder not Found! Create Folder?", ui::Buttons::YesNo) != ui::Answer::Yes) return {};
-  return CreateFolderPath(folder) ? folder : std::string{};
+  return CreateFolderPath(folder, created) ? folder : std::string{};
 }
 
 // Each level that ends in a separator: a last part without one is not a folder of the job.
-bool CreateFolderPath(const std::string& folder) {
+bool CreateFolderPath(const std::string& folder, CreatedFolders* created) {
+  CreatedFolders made;
   for (std::size_t i = 0; i < folder.size(); ++i) {
     if (!isSeparator(folder[i])) continue;
     const std::string level = folder.substr(0, i + 1);
     if (level.size() == 1 || isFolder(level)) continue;
     std::error_code ec;
-    fs::create_directory(fsPath(level), ec);
+    if (fs::create_directory(fsPath(level), ec)) made.add(fsPath(level));
     if (!isFolder(level)) return false;
   }
+  if (created) created->takeFrom(made);
+  made.keep();
   return true;
 }
 

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "ui/dialogs.h"
 
@@ -20,10 +21,32 @@ std::string folderPart(const std::string& jobPath);
 
 enum class MissingFolder { Refuse, OfferToCreate };
 
-// The folder of a job path when it exists or was created on request; empty otherwise.
-std::string FolderCheck(const std::string& jobPath, MissingFolder missing, ui::Dialogs& dialogs);
+// Folder levels a save created, removed again (when still empty) unless the save kept them:
+// a refused save leaves no folder behind.
+class CreatedFolders {
+ public:
+  CreatedFolders() = default;
+  ~CreatedFolders();
+  CreatedFolders(const CreatedFolders&) = delete;
+  CreatedFolders& operator=(const CreatedFolders&) = delete;
+  void add(std::filesystem::path level) { levels_.push_back(std::move(level)); }
+  void keep() { levels_.clear(); }
+  void takeFrom(CreatedFolders& other) {
+    levels_.insert(levels_.end(), other.levels_.begin(), other.levels_.end());
+    other.keep();
+  }
 
-// Creates each missing level of a folder path; false when a level could not be made.
-bool CreateFolderPath(const std::string& folder);
+ private:
+  std::vector<std::filesystem::path> levels_;
+};
+
+// The folder of a job path when it exists or was created on request; empty otherwise. The
+// levels it creates are added to `created`.
+std::string FolderCheck(const std::string& jobPath, MissingFolder missing, ui::Dialogs& dialogs,
+                        CreatedFolders* created = nullptr);
+
+// Creates each missing level of a folder path; false, with nothing left created, when a level
+// could not be made.
+bool CreateFolderPath(const std::string& folder, CreatedFolders* created = nullptr);
 
 }  // namespace pellam::files

@@ -8,6 +8,7 @@
 #include <fstream>
 #include <system_error>
 
+#include "files/replace_files.h"
 #include "files/save_job.h"
 
 namespace pellam::files {
@@ -29,6 +30,7 @@ std::vector<std::string> ListImageFiles(const std::string& folder) {
 std::optional<std::ifstream> OpenImageFile(const std::string& path) {
   std::error_code ec;
   const fs::path p = fsPath(path);
+  if (!path.empty()) RecoverInterruptedSave(jobPrefix(path));
   if (path.empty() || !fs::is_regular_file(p, ec)) return std::nullopt;
   std::optional<std::ifstream> in(std::in_place);
   // The image is read in one call, so the stream needs no buffer of its own.

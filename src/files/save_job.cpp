@@ -1,19 +1,14 @@
 #include "files/save_job.h"
 
-#include <filesystem>
-
-#include "files/job_paths.h"
-#include <fstream>
-#include <system_error>
+#include <optional>
 #include <vector>
 
 #include "files/command_text.h"
+#include "files/replace_files.h"
 #include "image/pack.h"
 #include "ui/trap.h"
 
 namespace pellam::files {
-
-namespace fs = std::filesystem;
 
 std::string jobPrefix(const std::string& jobPath) { return jobPath.substr(0, jobPath.find('.')); }
 
@@ -57,40 +52,13 @@ std::string perInputFile(int first, int last, int inputBank, TextOf textOf) {
   return file;
 }
 
-bool writeWhole(const fs::path& path, const std::string& bytes) {
-  std::ofstream out(path, std::ios::binary | std::ios::trunc);
-  out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  out.flush();
-  return static_cast<bool>(out);
-}
-
-bool replaceAll(const std::vector<Output>& outputs, ui::Dialogs& dialogs) {
-  std::vector<fs::path> temporaries;
-  auto discard = [&] {
-    std::error_code ec;
-    for (const fs::path& t : temporaries) fs::remove(t, ec);
-  };
-  for (const Output& o : outputs) {
-    const fs::path target = fsPath(o.path);
-    fs::path temporary = target;
-    temporary += ".pellam-new";
-    temporaries.push_back(temporary);
-    if (!writeWhole(temporary, o.bytes)) {
-      discard();
-      dialogs.msgBox("Cannot Write File: " + o.path, ui::Buttons::OK);
-      return false;
-    }
-  }
-  for (std::size_t i = 0; i < outputs.size(); ++i) {
-    std::error_code ec;
-    fs::rename(temporaries[i], fsPath(outputs[i].path), ec);
-    if (ec) {
-      discard();
-      dialogs.msgBox("Cannot Write File: " + outputs[i].path, ui::Buttons::OK);
-      return false;
-    }
-  }
-  return true;
+// Every output is named after the job's prefix, so it goes to the replacement as its suffix.
+bool replaceAll(const std::string& prefix, const std::vector<Output>& outputs, ui::Dialogs& dialogs) {
+  std::vector<JobFile> files;
+  for (const Output& o : outputs) files.push_back({o.path.substr(prefix.size()), o.bytes});
+  const std::optional<std::string> refused = ReplaceJobFiles(prefix, files);
+  if (refused) dialogs.msgBox(*refused, ui::Buttons::OK);
+  return !refused;
 }
 
 }  // namespace
@@ -102,6 +70,7 @@ std::string SaveJob(const std::string& jobPath, int inputBank, const job::Job& j
     return {};
   }
   const std::string prefix = jobPrefix(jobPath);
+  RecoverInterruptedSave(prefix);
   constexpr int kBank = image::map::kInputsPerBank;
   std::vector<Output> outputs;
   auto wholeFile = [&](const std::string& path, const std::string& text) { outputs.push_back({path, text + kFileEnd}); };
@@ -152,7 +121,7 @@ std::string SaveJob(const std::string& jobPath, int inputBank, const job::Job& j
   const auto bytes = image.bytes();
   const std::string zpd = prefix + ".zpd";
   outputs.push_back({zpd, std::string(bytes.begin(), bytes.begin() + image::map::kZpdSize)});
-  return replaceAll(outputs, dialogs) ? zpd : std::string{};
+  return replaceAll(prefix, outputs, dialogs) ? zpd : std::string{};
 }
 
 }  // namespace pellam::files

@@ -34,6 +34,21 @@ TEST(Class1ReturnFileNamePath, ShowsTheFileDialogAndGivesThePath) {
 }
 
 // The host_members script walks load, hide and unload; this checks what a script cannot see.
+// The host's strings count UTF-16 units, so a name is never cut inside a character.
+TEST(Class1ReturnFileName, CountsCharactersAsTheHostDoes) {
+  const struct {
+    std::string path, name, expected;
+  } cases[] = {
+      {"/jobs/Caf\u00e9.txt", "abcdefgh", "Caf\u00e9.txt"},
+      {"/jobs/\u5927\u697c.txt", "abcdef", "\u5927\u697c.txt"},
+      {"/j/\U0001F600.txt", "abcdef", "\U0001F600.txt"},
+      {"/j/\U0001F600.txt", "abcde", ".txt"},
+      {"a.txt", "a much longer name", "a.txt"},
+  };
+  Desk desk;
+  for (auto c : cases) EXPECT_EQ(desk.class1().Return_File_Name(c.path, c.name), c.expected) << c.path;
+}
+
 TEST(Class1FormMembers, UnloadKeepsTheTablesAndLoadHonoursTheHost) {
   Desk desk;
   Class1 c = desk.class1();

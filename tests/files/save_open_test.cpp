@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <functional>
 #include <fstream>
 #include <algorithm>
 #include <map>
@@ -23,7 +24,9 @@ using Lines = std::vector<std::string>;
 
 std::map<std::string, std::string> folderContents(const fs::path& folder) {
   std::map<std::string, std::string> files;
-  for (const auto& entry : fs::directory_iterator(folder)) files[entry.path().filename().string()] = readAll(entry.path());
+  for (const auto& entry : fs::directory_iterator(folder)) {
+    files[entry.path().filename().string()] = entry.is_directory() ? "<folder>" : readAll(entry.path());
+  }
   return files;
 }
 
@@ -185,15 +188,91 @@ class SaveRefusals : public ::testing::Test {
   TempFolder folder;
 };
 
+// Whatever stops a save, the old job stays whole and nothing of the new one is left.
 TEST_F(SaveRefusals, AFailedSaveLeavesTheOldJobAsItWas) {
-  folder.write("a.zpd", "the old job");
-  folder.write("aLnkData.txt", "old links");
-  fs::create_directory(folder.path() / "aNetData.txt.pellam-new");  // the net data cannot be written
-  save(desk, folder.file("a.txt"));
-  EXPECT_EQ(desk.shown(), Lines{okBox("Cannot Write File: " + folder.file("aNetData.txt"))});
-  EXPECT_EQ(readAll(folder.path() / "a.zpd"), "the old job");
-  EXPECT_EQ(readAll(folder.path() / "aLnkData.txt"), "old links");
-  EXPECT_FALSE(fs::exists(folder.path() / "aLnkData.txt.pellam-new")) << "no half-written file is left";
+  struct Case {
+    const char* obstacle;
+    std::function<void(const fs::path&)> make;
+    std::string message;
+  };
+  const Case cases[] = {
+      {"aNetData.txt.pellam-new", [](const fs::path& p) { fs::create_directory(p); }, "Cannot Write File: "},
+      {"aNetData.txt", [](const fs::path& p) { fs::create_directory(p); }, "Cannot Write File: "},
+      {"aNetData.txt", [](const fs::path& p) {
+         std::ofstream(p) << "old stations";
+         fs::permissions(p, fs::perms::owner_read | fs::perms::group_read);
+       }, "Read-Only File Not Replaced: "},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.obstacle);
+    TempFolder folder;
+    folder.write("a.zpd", "the old job");
+    folder.write("aLnkData.txt", "old links");
+    c.make(folder.path() / c.obstacle);
+    const auto before = folderContents(folder.path());
+    save(desk, folder.file("a.txt"));
+    EXPECT_EQ(desk.shown(), Lines{okBox(c.message + folder.file("aNetData.txt"))});
+    EXPECT_EQ(firstDifference(folderContents(folder.path()), before), "");
+  }
+}
+
+// A save killed at any moment is finished or undone when the job is next opened: the files
+// left on the disk in the middle of a save are laid out here by hand.
+TEST_F(SaveRefusals, AnInterruptedSaveIsFinishedOrUndoneWhenTheJobIsNextOpened) {
+  TempFolder saved;
+  save(desk, saved.file("a.txt"));
+  const auto fresh = folderContents(saved.path());
+  struct Case {
+    const char* record;
+    std::map<std::string, std::string> files;  // besides the record
+    bool finished;
+  };
+  const std::string zpd = fresh.at("a.zpd");
+  const Case cases[] = {
+      // Interrupted while the new files were written: undone.
+      {"prepared\n+LnkData.txt\n+NetData.txt\n+.zpd\n",
+       {{"aLnkData.txt.pellam-new", "half"}, {"aLnkData.txt", "old links"}, {"aNetData.txt", "old stations"}, {"a.zpd", "old"}},
+       false},
+      // Interrupted between two renames: finished, a target missing for a moment included.
+      {"committed\n+LnkData.txt\n+NetData.txt\n-.zpd\n",
+       {{"aLnkData.txt", fresh.at("aLnkData.txt")}, {"aLnkData.txt.pellam-old", "old links"},
+        {"aNetData.txt.pellam-old", "old stations"}, {"aNetData.txt.pellam-new", fresh.at("aNetData.txt")},
+        {"a.zpd.pellam-new", zpd}},
+       true},
+      // Interrupted while undoing a rename that failed: undone, the new image taken away.
+      {"prepared\n+LnkData.txt\n+NetData.txt\n-.zpd\n",
+       {{"aLnkData.txt", fresh.at("aLnkData.txt")}, {"aLnkData.txt.pellam-old", "old links"},
+        {"aNetData.txt", "old stations"}, {"a.zpd", zpd}},
+       false},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.record);
+    TempFolder folder;
+    folder.write("a.pellam-save", c.record);
+    folder.write("a.pellam-save.pellam-new", "a record never finished");
+    for (const auto& [name, bytes] : c.files) folder.write(name, bytes);
+    std::string path = folder.file("a.zpd");
+    desk.answer(ui::Answer::No);
+    desk.class1().Product_Type(path);
+    desk.shown();
+    auto expected = c.finished ? fresh : std::map<std::string, std::string>{{"aLnkData.txt", "old links"}, {"aNetData.txt", "old stations"}};
+    if (!c.finished && c.files.count("a.zpd") && c.files.at("a.zpd") == "old") expected["a.zpd"] = "old";
+    EXPECT_EQ(firstDifference(folderContents(folder.path()), expected), "");
+  }
+}
+
+// A refused save takes away the folders it made, even a path too long for the system.
+TEST_F(SaveRefusals, NoFolderIsLeftBehind) {
+  std::string deep = folder.path().string();
+  for (int level = 0; level < 20; ++level) deep += "/" + std::string(250, 'd');
+  desk.answer(ui::Answer::Yes);
+  save(desk, deep + "/a.txt");
+  desk.answer(ui::Answer::Yes);
+  save(desk, folder.file("made/a.doc"));
+  EXPECT_EQ(desk.shown(), (Lines{"msgbox \"Folder not Found! Create Folder?\" YesNo -> Yes", okBox("Directory Not Found"),
+                                 "msgbox \"Folder not Found! Create Folder?\" YesNo -> Yes",
+                                 okBox("File extension must be .txt")}));
+  EXPECT_TRUE(fs::is_empty(folder.path()));
 }
 
 TEST_F(SaveRefusals, ALongerOldFileIsReplacedWhole) {

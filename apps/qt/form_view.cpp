@@ -6,7 +6,7 @@
 #include <QTimer>
 #include <algorithm>
 
-#include "reading_order.h"
+#include "ui/reading_order.h"
 
 namespace pellam::qt {
 
@@ -48,11 +48,11 @@ FormView::FormView(ui::UserForm1& form, QWidget* parent) : QWidget(parent), form
   const ui::ControlSpec& spec = form_.MultiPage1.spec();
   multiPage_->widget()->setGeometry(0, 0, spec.width, spec.height + tabs.height());
   setMinimumSize(multiPage_->widget()->size());
-  form_.setObserver([this](const ui::Control* control) { changed(control); });
+  subscription_ = form_.observe([this](const ui::Control* control) { changed(control); });
   redrawAll();
 }
 
-FormView::~FormView() { form_.setObserver(nullptr); }
+FormView::~FormView() = default;
 
 const ui::Control* FormView::pageOf(const ui::Control& control) const {
   const ui::Control* page = &control;
@@ -99,7 +99,7 @@ void FormView::orderTabs(const ui::Control& page) {
   // other pages' controls, are passed over by Qt itself.
   QWidget* previous = static_cast<QTabWidget*>(multiPage_->widget())->tabBar();
   QWidget* pageWidget = byControl_.at(&page)->widget();
-  for (const ui::ControlSpec* spec : readingOrder(ui::userForm1Table())) {
+  for (const ui::ControlSpec* spec : ui::readingOrder(ui::userForm1Table())) {
     const auto view = byControl_.find(form_.find(spec->name));
     if (view == byControl_.end()) continue;
     QWidget* next = view->second->widget();

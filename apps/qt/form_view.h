@@ -37,6 +37,7 @@ class FormView final : public QWidget {
   void redrawAll();
 
   ui::UserForm1& form_;
+  ui::UserForm1::Subscription subscription_;
   std::vector<std::unique_ptr<ControlView>> views_;  // table order
   std::unordered_map<const ui::Control*, ControlView*> byControl_;
   std::unordered_map<const ui::Control*, std::vector<ui::Control*>> unbuilt_;  // by page, table order

@@ -13,8 +13,7 @@ namespace {
 QString toDisplay(const std::string& text) { return QString::fromStdString(text).replace("\r\n", "\n"); }
 std::string fromDisplay(const QString& text) { return QString(text).replace("\n", "\r\n").toStdString(); }
 
-// A text box tall enough for more than one line is a multi-line editor.
-bool multiLine(const ui::Control& control) { return control.spec().height > 40; }
+bool multiLine(const ui::Control& control) { return ui::isMultiLine(control.spec()); }
 
 class LineView final : public ControlView {
  public:

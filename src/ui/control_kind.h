@@ -18,4 +18,8 @@ struct ControlSpec {
   bool visible;
 };
 
+// A text box or label tall enough for more than one line shows its text as lines, wrapped;
+// every renderer draws it so.
+constexpr bool isMultiLine(const ControlSpec& spec) { return spec.height > 40; }
+
 }  // namespace pellam::ui

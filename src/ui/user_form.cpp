@@ -62,14 +62,14 @@ Control* UserForm1::find(std::string_view name) const {
 void UserForm1::load() {
   if (loaded_) return;
   loaded_ = true;
-  if (observer_) observer_(nullptr);
+  tell(nullptr);
 }
 
 void UserForm1::unload() {
   for (Control* c : controls_) c->reset();
   loaded_ = false;
   visible_ = false;
-  if (observer_) observer_(nullptr);
+  tell(nullptr);
 }
 
 void UserForm1::show(bool modeless) {
@@ -82,12 +82,40 @@ void UserForm1::setVisible(bool visible) {
   load();
   if (visible_ == visible) return;
   visible_ = visible;
-  if (observer_) observer_(nullptr);
+  tell(nullptr);
 }
 
 void UserForm1::controlChanged(const Control& control) {
   if (control.kind() == Kind::Page) MultiPage1.pageVisibilityChanged(static_cast<const Page&>(control));
-  if (observer_) observer_(&control);
+  tell(&control);
+}
+
+UserForm1::Subscription UserForm1::observe(Observer observer) {
+  observers_.emplace_back(++nextObserver_, std::move(observer));
+  return Subscription(this, nextObserver_);
+}
+
+// By index and id: an observer may end its own or another's subscription while being told.
+void UserForm1::tell(const Control* control) {
+  for (std::size_t i = 0; i < observers_.size(); ++i) {
+    const Observer observer = observers_[i].second;
+    observer(control);
+  }
+}
+
+UserForm1::Subscription& UserForm1::Subscription::operator=(Subscription&& other) noexcept {
+  if (this != &other) {
+    end();
+    form_ = std::exchange(other.form_, nullptr);
+    id_ = other.id_;
+  }
+  return *this;
+}
+
+void UserForm1::Subscription::end() {
+  if (!form_) return;
+  std::erase_if(form_->observers_, [this](const auto& o) { return o.first == id_; });
+  form_ = nullptr;
 }
 
 }  // namespace pellam::ui

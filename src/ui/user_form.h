@@ -3,6 +3,7 @@
 #include <functional>
 #include <span>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "ui/controls.h"
@@ -36,15 +37,32 @@ class UserForm1 final : public ChangeSink {
   void setVisible(bool visible);
 
   // The one change notification for faces: a control changed, or the form itself (nullptr).
+  // Every face that draws the form observes it for as long as it keeps the subscription.
   using Observer = std::function<void(const Control*)>;
-  void setObserver(Observer observer) { observer_ = std::move(observer); }
+  class Subscription {
+   public:
+    Subscription() = default;
+    Subscription(Subscription&& other) noexcept : form_(std::exchange(other.form_, nullptr)), id_(other.id_) {}
+    Subscription& operator=(Subscription&& other) noexcept;
+    ~Subscription() { end(); }
+    void end();
+
+   private:
+    friend class UserForm1;
+    Subscription(UserForm1* form, int id) : form_(form), id_(id) {}
+    UserForm1* form_ = nullptr;
+    int id_ = 0;
+  };
+  [[nodiscard]] Subscription observe(Observer observer);
 
   void controlChanged(const Control& control) override;
 
  private:
+  void tell(const Control* control);
   std::vector<Control*> controls_;
   std::vector<Control*> byName_;
-  Observer observer_;
+  std::vector<std::pair<int, Observer>> observers_;
+  int nextObserver_ = 0;
   bool loaded_ = false;
   bool visible_ = false;
   bool modal_ = false;

@@ -16,7 +16,6 @@
 #include "editors/station_personality/list_lines.h"
 #include "form_driver.h"
 #include "form_view.h"
-#include "reading_order.h"
 #include "setup/master_inputs.h"
 
 // How the window looks and reads: texts that fit, the order of the Tab key, the pictures.
@@ -113,38 +112,6 @@ TEST(WindowLayout, FitsAScreenOf1024By768WithATitleBar) {
   const QSize size = app.window().frameGeometry().size();
   EXPECT_LE(size.width(), 1024);
   EXPECT_LE(size.height(), 768 - 30);
-}
-
-ui::ControlSpec box(std::string_view name, std::string_view parent, int left, int top, int width, int height) {
-  return {name, name.starts_with("Frame") ? ui::Kind::Frame : ui::Kind::ComboBox, parent, left, top, width, height, "",
-          true};
-}
-
-std::vector<std::string_view> namesIn(const std::vector<const ui::ControlSpec*>& specs) {
-  std::vector<std::string_view> names;
-  for (const ui::ControlSpec* spec : specs) names.push_back(spec->name);
-  return names;
-}
-
-TEST(ReadingOrder, GridsReadByRowsAndGroupsOneAfterAnother) {
-  const ui::ControlSpec grid[] = {
-      {"Page1", ui::Kind::Page, "MultiPage1", 0, 0, 0, 0, "", true},
-      box("B", "Page1", 172, 14, 100, 24), box("A", "Page1", 12, 14, 140, 24),
-      box("D", "Page1", 172, 46, 100, 24), box("C", "Page1", 12, 46, 140, 24),
-      // A button column well apart from the grid comes after it.
-      box("E", "Page1", 360, 10, 100, 30), box("F", "Page1", 360, 44, 100, 30),
-      box("G", "Page1", 12, 90, 450, 200),
-  };
-  EXPECT_THAT(namesIn(readingOrder(grid)), ElementsAre("A", "B", "C", "D", "E", "F", "G"));
-
-  const ui::ControlSpec groups[] = {
-      {"Page1", ui::Kind::Page, "MultiPage1", 0, 0, 0, 0, "", true},
-      box("Frame2", "Page1", 330, 10, 300, 200), box("X", "Frame2", 12, 60, 100, 24), box("W", "Frame2", 12, 24, 100, 24),
-      box("A", "Page1", 12, 14, 280, 24), box("B", "Page1", 12, 46, 280, 24), box("C", "Page1", 12, 78, 280, 300),
-      {"Page2", ui::Kind::Page, "MultiPage1", 0, 0, 0, 0, "", true},
-      box("P", "Page2", 12, 14, 100, 24),
-  };
-  EXPECT_THAT(namesIn(readingOrder(groups)), ElementsAre("A", "B", "C", "Frame2", "W", "X", "P"));
 }
 
 // Tab from the page's first control: every control a person can use comes once, in order.

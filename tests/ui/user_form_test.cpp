@@ -104,16 +104,21 @@ TEST(MultiPage, HidingTheShownPageMovesToAVisibleOne) {
   EXPECT_THROW(form.MultiPage1.setValue(3), std::out_of_range) << "a hidden page cannot be shown";
 }
 
-TEST(UserForm1, TellsItsObserverWhatChanged) {
+// Each face that draws the form is told, until its subscription ends.
+TEST(UserForm1, TellsItsObserversWhatChanged) {
   UserForm1 form;
-  std::vector<std::string_view> changed;
-  form.setObserver([&](const Control* c) { changed.push_back(c ? c->name() : "UserForm1"); });
-  form.TextBox5.setText("x");
+  std::vector<std::string_view> changed, second;
+  const auto watch = form.observe([&](const Control* c) { changed.push_back(c ? c->name() : "UserForm1"); });
+  {
+    const auto other = form.observe([&](const Control* c) { second.push_back(c ? c->name() : "UserForm1"); });
+    form.TextBox5.setText("x");
+  }
   form.Label23.setCaption("Slave");
   form.ComboBox2.setVisible(false);
   form.setVisible(true);
   EXPECT_EQ(changed, (std::vector<std::string_view>{"TextBox5", "Label23", "ComboBox2", "UserForm1", "UserForm1"}))
       << "showing the form loads it first";
+  EXPECT_EQ(second, std::vector<std::string_view>{"TextBox5"});
 }
 
 TEST(UserForm1, UnloadForgetsContentsButKeepsHandlers) {

@@ -1,12 +1,12 @@
-#include "reading_order.h"
+#include "ui/reading_order.h"
 
 #include <algorithm>
 #include <optional>
 
-namespace pellam::qt {
+namespace pellam::ui {
 namespace {
 
-using Specs = std::vector<const ui::ControlSpec*>;
+using Specs = std::vector<const ControlSpec*>;
 
 struct Cut {
   Specs before, after;
@@ -33,11 +33,11 @@ std::optional<Cut> widestCut(Specs boxes, Start start, End end) {
 
 class Reader {
  public:
-  explicit Reader(std::span<const ui::ControlSpec> table) : table_(table) {}
+  explicit Reader(std::span<const ControlSpec> table) : table_(table) {}
 
   void readContainer(std::string_view name) {
     Specs children;
-    for (const ui::ControlSpec& spec : table_)
+    for (const ControlSpec& spec : table_)
       if (spec.parent == name) children.push_back(&spec);
     if (!children.empty()) read(std::move(children));
   }
@@ -60,23 +60,23 @@ class Reader {
     std::stable_sort(boxes.begin(), boxes.end(), [](auto* a, auto* b) {
       return a->top != b->top ? a->top < b->top : a->left < b->left;
     });
-    for (const ui::ControlSpec* box : boxes) take(box);
+    for (const ControlSpec* box : boxes) take(box);
   }
-  void take(const ui::ControlSpec* spec) {
+  void take(const ControlSpec* spec) {
     order.push_back(spec);
-    if (spec->kind == ui::Kind::Frame) readContainer(spec->name);
+    if (spec->kind == Kind::Frame) readContainer(spec->name);
   }
 
-  std::span<const ui::ControlSpec> table_;
+  std::span<const ControlSpec> table_;
 };
 
 }  // namespace
 
-std::vector<const ui::ControlSpec*> readingOrder(std::span<const ui::ControlSpec> table) {
+std::vector<const ControlSpec*> readingOrder(std::span<const ControlSpec> table) {
   Reader reader(table);
-  for (const ui::ControlSpec& spec : table)
-    if (spec.kind == ui::Kind::Page) reader.readContainer(spec.name);
+  for (const ControlSpec& spec : table)
+    if (spec.kind == Kind::Page) reader.readContainer(spec.name);
   return std::move(reader.order);
 }
 
-}  // namespace pellam::qt
+}  // namespace pellam::ui

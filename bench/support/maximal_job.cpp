@@ -35,15 +35,16 @@ void fillMaximalJob(component::Session& s, int mode) {
   for (int k = 1; k <= 32; ++k) {
     for (int j = 0; j < 37; ++j) job.presetEmulation.at(j, k) = {static_cast<std::int16_t>(j + 1), 9, 3, 2, 0};
   }
-  for (std::size_t k = 1; k <= 16; ++k) {
+  // Action two is never saved, so the second bank is full only in a job opened from a board
+  // whose inputs 17..32 are in use: those records are marked as the decoder marks them.
+  for (std::size_t k = 1; k <= 32; ++k) {
+    job::ChannelEmulationRecord& r = job.channelEmulation.records[k];
     for (std::size_t s2 = 0; s2 < 150; ++s2) {
-      const auto level = static_cast<std::int16_t>(s2 / 10 * 5);  // 15 ranges of 10 channels
-      for (std::size_t r : {k, k + 16}) {
-        job.channelEmulation.records[r].Channels[s2] = static_cast<std::int16_t>((k - 1) * 120 + s2 + 1);
-        job.channelEmulation.records[r].Levels[s2] = level;
-      }
+      r.Channels[s2] = static_cast<std::int16_t>((k - 1) % 16 * 120 + s2 + 1);
+      r.Levels[s2] = static_cast<std::int16_t>(s2 / 10 * 5);  // 15 ranges of 10 channels
     }
-    job.channelEmulation.records[k].InputNumber = static_cast<std::int16_t>(k);
+    r.InputNumber = static_cast<std::int16_t>(k);
+    r.Header6 = static_cast<std::int16_t>(k > 16 ? 30 : 0);
   }
 }
 

@@ -63,14 +63,16 @@ std::string PresetInputText(const job::PresetEmulationTable& table, int input) {
   return text.empty() ? text : text + ":";
 }
 
-// Input k of bank 1 is action one of input k; bank 2 holds the inputs' action two. The
-// groups are the image block's.
+// Inputs 1..16 are action one of the editor's inputs; inputs 17..32 are the board's second
+// bank, written only when an opened image held them (action two is never in use). The groups
+// and the fade are the image block's.
 std::string ChannelInputText(const job::ChannelEmulationTable& table, int input) {
   const job::ChannelEmulationRecord& r = table.records[static_cast<std::size_t>(input)];
+  if (!job::inUse(r)) return {};
   const std::vector<image::ChannelGroup> groups = image::channelGroups(r);
   if (groups.empty()) return {};
   std::string text = std::string(kCrLf) + kCrLf + kCrLf + "P," + (input > kBank ? "2" : "1") + ",I," +
-                     n(input > kBank ? input - kBank : input) + ",F," + n(r.FadeRate) + ",";
+                     n(input > kBank ? input - kBank : input) + ",F," + n(image::blockSetting(r, input)) + ",";
   for (const image::ChannelGroup& g : groups) {
     text += std::string(kCrLf) + "L," + n(g.level) + ",C,";
     for (int channel : g.channels) text += n(channel) + ",";

@@ -80,7 +80,7 @@ std::string SaveJob(const std::string& jobPath, int inputBank, const job::Job& j
       outputs.push_back({jobPath, perInputFile(1, kBank, inputBank,
                                                [&](int k) { return ChannelInputText(job.channelEmulation, k); })});
       // An input that cannot be stored is named and skipped; the others are still packed.
-      for (int k = 1; k <= kBank; ++k) {
+      for (int k = 1; k <= 2 * kBank; ++k) {
         ui::trap(dialogs, "Error module WriteChannelEmulation Input " + std::to_string(k),
                  [&] { image::PackChannelEmulationInput(image, job.channelEmulation, k); });
       }

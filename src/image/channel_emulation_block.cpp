@@ -23,6 +23,11 @@ int pairsOf(const ChannelGroup& group) {
   return pairs;
 }
 
+// Action two's fade rate never reaches the board: a second-bank block starts with word 6.
+std::int16_t job::ChannelEmulationRecord::*settingField(int input) {
+  return input <= map::kInputsPerBank ? &job::ChannelEmulationRecord::FadeRate : &job::ChannelEmulationRecord::Header6;
+}
+
 int liveChannels(const job::ChannelEmulationRecord& record) {
   int live = 0;
   for (int s = 0; s < job::kChannelSlotsListed; ++s) live += record.Channels[static_cast<std::size_t>(s)] > 0;
@@ -47,16 +52,26 @@ int channelGroupBytes(const job::ChannelEmulationRecord& record) {
   return bytes;
 }
 
-bool channelsFit(const job::ChannelEmulationRecord& actionOne, const job::ChannelEmulationRecord& actionTwo) {
-  constexpr int kRoom = map::kBlockSize - kChannelBlockGroupsStart;
-  return liveChannels(actionOne) <= kChannelsPerInput && channelGroupBytes(actionOne) <= kRoom &&
-         liveChannels(actionTwo) <= kChannelsPerInput && channelGroupBytes(actionTwo) <= kRoom;
+namespace {
+
+bool blockFits(const job::ChannelEmulationRecord& record) {
+  return liveChannels(record) <= kChannelsPerInput &&
+         channelGroupBytes(record) <= map::kBlockSize - kChannelBlockGroupsStart;
 }
 
-void PackChannelBlock(EepromImage& image, int base, const job::ChannelEmulationRecord& record) {
+}  // namespace
+
+std::int16_t blockSetting(const job::ChannelEmulationRecord& record, int input) { return record.*settingField(input); }
+
+bool channelsFit(const job::ChannelEmulationRecord& actionOne, const job::ChannelEmulationRecord& actionTwo) {
+  return blockFits(actionOne) && (!job::inUse(actionTwo) || blockFits(actionTwo));
+}
+
+void PackChannelBlock(EepromImage& image, int input, const job::ChannelEmulationRecord& record) {
   // The whole block is built and checked first, so that a record that cannot be stored
   // leaves the image as it was.
-  std::vector<std::uint8_t> block{toByte(record.FadeRate), 0, toByte(liveChannels(record))};
+  const int base = map::blockBase(input);
+  std::vector<std::uint8_t> block{toByte(blockSetting(record, input)), 0, toByte(liveChannels(record))};
   auto putPair = [&](int channel, bool rangeEnd) {
     if (channel > kChannelLast) throw job::RuntimeError(job::kOverflow);
     block.push_back(static_cast<std::uint8_t>((channel >> 8) | (rangeEnd ? kRangeEnd : 0)));
@@ -81,10 +96,11 @@ void PackChannelBlock(EepromImage& image, int base, const job::ChannelEmulationR
   for (std::size_t i = 0; i < block.size(); ++i) image.put(base + static_cast<int>(i), block[i]);
 }
 
-void DecodeChannelBlock(const EepromImage& image, int base, job::ChannelEmulationRecord& record) {
+void DecodeChannelBlock(const EepromImage& image, int input, job::ChannelEmulationRecord& record) {
+  const int base = map::blockBase(input);
   image.at(base + map::kBlockSize - 1);  // the whole block lies inside the image
   const std::uint8_t* const block = image.bytes().data() + base;
-  record.FadeRate = block[0];
+  record.*settingField(input) = block[0];
   int slot = 0;
   auto take = [&](int channel, int level) {
     if (channel < 1 || channel > kChannelLast || slot >= kChannelsPerInput) return;

@@ -8,14 +8,17 @@
 
 namespace pellam::image {
 
-// The 300-byte block of one channel-emulation action. Block k (inputs 1..16) holds action
-// one of input k (record k), block k + 16 its action two (record k + 16); both blocks list the
-// same channels in the same order, each with its own levels.
+// The 300-byte block of one input of the board. Block k (1..16) holds action one of input k
+// (record k). Block k + 16 is the board's input k + 16, of its second bank (record k + 16):
+// the editor keeps action two of input k in that record but never marks it in use, so action
+// two is not written; only an opened image marks it, so that its second-bank inputs are kept.
+// Both banks list the channels of their record in slot order.
 //
-//   +0       fade-rate code of the action (0..240)
+//   +0       blocks 1..16: fade-rate code of action one (0..240);
+//            blocks 17..32: the record's word 6, the setting the board keeps for that input
 //   +1       0
 //   +2       number of channels (1..150); 0 = the input is not in use
-//   +3 ...   groups, in the order of the editor's slots, then a 0 count (left out when the
+//   +3 ...   groups, in the order of the record's slots, then a 0 count (left out when the
 //            groups end exactly at the block's end):
 //              count n (1..255)  the number of byte pairs in the group
 //              level             0..100, shared by every channel of the group
@@ -40,15 +43,20 @@ std::vector<ChannelGroup> channelGroups(const job::ChannelEmulationRecord& recor
 // Bytes the record's groups take from +3 on, terminator not counted.
 int channelGroupBytes(const job::ChannelEmulationRecord& record);
 
-// Whether both actions of an input fit their blocks. The editor asks before it takes a
-// channel, so that a save never has to drop one.
+// Byte +0 of input k's block, which the text file also sends as the input's fade.
+std::int16_t blockSetting(const job::ChannelEmulationRecord& record, int input);
+
+// Whether the blocks a save writes for an input can hold its records: action one's always,
+// action two's record only when it is in use (an opened image's second-bank input). The
+// editor asks before it takes a channel, so that a save never has to drop one.
 bool channelsFit(const job::ChannelEmulationRecord& actionOne, const job::ChannelEmulationRecord& actionTwo);
 
-// Writes the block; a record that does not fit is a run-time error and writes nothing of it.
-// Nothing is written at or past the block's 300th byte.
-void PackChannelBlock(EepromImage& image, int base, const job::ChannelEmulationRecord& record);
+// Writes input k's block (1..32); a record that does not fit is a run-time error and writes
+// nothing of it. Nothing is written at or past the block's 300th byte.
+void PackChannelBlock(EepromImage& image, int input, const job::ChannelEmulationRecord& record);
 
-// Reads a block back into a record's fade rate and slots 0..; garbage never reads past the block.
-void DecodeChannelBlock(const EepromImage& image, int base, job::ChannelEmulationRecord& record);
+// Reads input k's block back into the record's byte +0 setting and slots 0..; garbage never
+// reads past the block.
+void DecodeChannelBlock(const EepromImage& image, int input, job::ChannelEmulationRecord& record);
 
 }  // namespace pellam::image

@@ -1,6 +1,5 @@
 #include "image/decode.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -134,23 +133,22 @@ void DecodePresetEmulation(const EepromImage& image, job::PresetEmulationTable& 
 
 void DecodeChannelEmulation(const EepromImage& image, job::ChannelEmulationTable& table) {
   for (int k = 1; k <= 2 * kInputsPerBank; ++k) {
-    DecodeChannelBlock(image, blockBase(k), table.records[static_cast<std::size_t>(k)]);
+    job::ChannelEmulationRecord& r = table.records[static_cast<std::size_t>(k)];
+    DecodeChannelBlock(image, k, r);
+    const bool used = r.ChannelCount > 0;
+    r.InputNumber = static_cast<std::int16_t>(used ? k : 0);
+    r.PartnerIndex = static_cast<std::int16_t>(used && k <= kInputsPerBank ? k + kInputsPerBank : 0);
   }
-  // Both actions of an input hold the same channels in the same slots: action two takes action
-  // one's channels and keeps a level only where its own block agrees on the channel.
+  // Action two is not in the image. Where no second-bank input holds its record, it starts
+  // again as the editor makes it: action one's channels, slot for slot, at level 0.
   for (int k = 1; k <= kInputsPerBank; ++k) {
-    job::ChannelEmulationRecord& one = table.records[static_cast<std::size_t>(k)];
+    const job::ChannelEmulationRecord& one = table.records[static_cast<std::size_t>(k)];
     job::ChannelEmulationRecord& two = table.records[static_cast<std::size_t>(k + kInputsPerBank)];
-    // Decoded slots are filled from 0, so nothing lies beyond the longer of the two.
-    const auto filled = static_cast<std::size_t>(std::max(one.ChannelCount, two.ChannelCount));
-    for (std::size_t s = 0; s < filled; ++s) {
-      if (two.Channels[s] != one.Channels[s]) two.Levels[s] = 0;
-      two.Channels[s] = one.Channels[s];
-    }
+    two.FadeRate = 0;
+    if (job::inUse(two)) continue;
+    two.Channels = one.Channels;
+    two.Levels.fill(0);
     two.ChannelCount = one.ChannelCount;
-    const bool used = one.ChannelCount > 0;
-    one.InputNumber = static_cast<std::int16_t>(used ? k : 0);
-    one.PartnerIndex = static_cast<std::int16_t>(used ? k + kInputsPerBank : 0);
   }
 }
 

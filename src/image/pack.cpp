@@ -143,7 +143,8 @@ void PackPresetEmulation(EepromImage& image, const job::PresetEmulationTable& ta
 }
 
 void PackChannelEmulationInput(EepromImage& image, const job::ChannelEmulationTable& table, int input) {
-  for (int k : {input, input + kInputsPerBank}) PackChannelBlock(image, blockBase(k), table.records[static_cast<std::size_t>(k)]);
+  const job::ChannelEmulationRecord& record = table.records.at(static_cast<std::size_t>(input));
+  if (input <= kInputsPerBank || job::inUse(record)) PackChannelBlock(image, input, record);
 }
 
 }  // namespace pellam::image

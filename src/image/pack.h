@@ -38,7 +38,8 @@ void PackStationsFormB(EepromImage& image, const job::StationLinkTable& table,
                        const job::StationPersonalityTable& personalities);
 void PackFurtherOption(EepromImage& image, int option);
 void PackPresetEmulation(EepromImage& image, const job::PresetEmulationTable& table);
-// Both blocks of input k (1..16): action one at k, action two at k + 16.
+// Block k (1..32): action one's of inputs 1..16 always; a second-bank block only when its
+// record is in use, so that the editor's action two is never sent as inputs 17..32.
 void PackChannelEmulationInput(EepromImage& image, const job::ChannelEmulationTable& table, int input);
 
 bool optionBitZero(int optionFlags);

@@ -11,15 +11,16 @@ namespace pellam::job {
 
 inline constexpr std::int16_t kNotListed = -1;  // 65535 in a signed 16-bit field
 
-// Channel emulation: record n is action one of input n, record n + 16 its action two.
+// Channel emulation: record n is action one of input n, record n + 16 its action two. Records
+// 17..32 are also where an opened image keeps the board's inputs 17..32 (its second bank).
 struct ChannelEmulationRecord {
   std::int16_t Header0 = 0;
-  std::int16_t InputNumber = 0;
+  std::int16_t InputNumber = 0;  // non-zero: the record is in use, see inUse below
   std::int16_t PartnerIndex = 0;
   std::int16_t Header3 = 0;
   std::int16_t Header4 = 0;
   std::int16_t FadeRate = 0;
-  std::int16_t Header6 = 0;
+  std::int16_t Header6 = 0;  // byte +0 of a second-bank block; only an opened image fills it
   std::int16_t Header7 = 0;
   std::array<std::int16_t, 302> Levels{};
   std::array<std::int16_t, 302> Channels{};  // 0 never used, -1 deleted
@@ -28,6 +29,10 @@ struct ChannelEmulationRecord {
 };
 // The editor lists, packs and writes slots 0..299 of a record.
 inline constexpr int kChannelSlotsListed = 300;
+// Only a record in use is written as text, and a second-bank block only then. The editor marks
+// action-one records alone, so action two never reaches the board; the decoder marks the
+// second-bank inputs it reads, so that a save keeps them.
+inline bool inUse(const ChannelEmulationRecord& record) { return record.InputNumber != 0; }
 struct ChannelEmulationTable {
   std::array<ChannelEmulationRecord, 34> records{};
 };

@@ -66,7 +66,8 @@ TEST(PresetInputText, BankAndInputNumberAtTheBankEdges) {
   }
 }
 
-void fill(job::ChannelEmulationRecord& r, int fade, const std::vector<std::pair<int, int>>& slots) {
+void fill(job::ChannelEmulationRecord& r, int inputNumber, int fade, const std::vector<std::pair<int, int>>& slots) {
+  r.InputNumber = static_cast<std::int16_t>(inputNumber);
   r.FadeRate = static_cast<std::int16_t>(fade);
   for (std::size_t s = 0; s < slots.size(); ++s) {
     r.Channels[s] = static_cast<std::int16_t>(slots[s].first);
@@ -74,6 +75,8 @@ void fill(job::ChannelEmulationRecord& r, int fade, const std::vector<std::pair<
   }
 }
 
+// Action two (record 19, never in use) is not sent as input 3 of the second bank; a second-bank
+// input that an opened image held (record 32) is, with its block's setting as its fade.
 TEST(ChannelInputText, HandWrittenTexts) {
   auto table = std::make_unique<job::ChannelEmulationTable>();
   std::vector<std::pair<int, int>> one, two;
@@ -83,16 +86,16 @@ TEST(ChannelInputText, HandWrittenTexts) {
   }
   one.insert(one.end(), {{-1, 40}, {20, 75}, {30, 50}});  // -1: a deleted channel
   two.insert(two.end(), {{-1, 40}, {20, 100}, {30, 0}});
-  fill(table->records[3], 5, one);
-  fill(table->records[19], 61, two);
+  fill(table->records[3], 3, 5, one);
+  fill(table->records[19], 0, 61, two);
   EXPECT_EQ(ChannelInputText(*table, 3), "\r\n\r\n\r\nP,1,I,3,F,5,\r\nL,75,C,1,2,3,4,5,6,7,8,9,10,20,\r\nL,50,C,30,:");
-  EXPECT_EQ(ChannelInputText(*table, 19),
-            "\r\n\r\n\r\nP,2,I,3,F,61,\r\nL,0,C,1,2,3,4,5,6,7,8,9,10,\r\nL,100,C,20,\r\nL,0,C,30,:");
+  EXPECT_EQ(ChannelInputText(*table, 19), "");
   EXPECT_EQ(ChannelInputText(*table, 4), "");
-  fill(table->records[16], 1, {{2048, 100}});
-  fill(table->records[32], 0, {{2048, 0}});
+  fill(table->records[16], 16, 1, {{2048, 100}});
+  fill(table->records[32], 32, 50, {{2048, 0}});
+  table->records[32].Header6 = 4;
   EXPECT_EQ(ChannelInputText(*table, 16), "\r\n\r\n\r\nP,1,I,16,F,1,\r\nL,100,C,2048,:");
-  EXPECT_EQ(ChannelInputText(*table, 32), "\r\n\r\n\r\nP,2,I,16,F,0,\r\nL,0,C,2048,:");
+  EXPECT_EQ(ChannelInputText(*table, 32), "\r\n\r\n\r\nP,2,I,16,F,4,\r\nL,0,C,2048,:");
 }
 
 // The levels of the text's groups, in order, and every (channel, level) it names.
@@ -123,12 +126,12 @@ TEST(ChannelInputText, GroupsAreTheBlocksAndEachTextHasOneColon) {
   auto pick = [&](int lo, int hi) { return std::uniform_int_distribution<int>(lo, hi)(rng); };
   auto table = std::make_unique<job::ChannelEmulationTable>();
   auto eeprom = std::make_unique<image::EepromImage>();
-  constexpr int kBase = 8300;
   for (int round = 0; round < 200; ++round) {
     SCOPED_TRACE(::testing::Message() << "round " << round);
     const int input = pick(1, 32);
     job::ChannelEmulationRecord& r = table->records[static_cast<std::size_t>(input)];
     r = {};
+    r.InputNumber = static_cast<std::int16_t>(input);
     std::vector<std::pair<int, int>> live;
     for (int c = pick(1, 40), s = 0; s < 60 && c <= 2048; ++s, c += pick(1, 3)) {
       const int channel = pick(0, 9) == 0 ? -1 : c;
@@ -144,9 +147,10 @@ TEST(ChannelInputText, GroupsAreTheBlocksAndEachTextHasOneColon) {
     EXPECT_EQ(parsed.slots, live);
 
     if (!image::channelsFit(r, r)) continue;
-    image::PackChannelBlock(*eeprom, kBase, r);
+    image::PackChannelBlock(*eeprom, input, r);
+    const int base = image::map::blockBase(input);
     std::vector<int> blockLevels;
-    for (int at = kBase + 3; at < kBase + 300 && eeprom->at(at) != 0; at += 2 + 2 * eeprom->at(at)) {
+    for (int at = base + 3; at < base + 300 && eeprom->at(at) != 0; at += 2 + 2 * eeprom->at(at)) {
       blockLevels.push_back(eeprom->at(at + 1));
     }
     EXPECT_EQ(parsed.groupLevels, blockLevels);

@@ -389,7 +389,30 @@ TEST_F(SaveAndOpenEdges, AnInputThatCannotBeStoredIsNamedAndTheOthersAreKept) {
   EXPECT_EQ(author.shown(), Lines{okBox("Error module WriteChannelEmulation Input 2")});
   open(reader, folder.file("a.zpd"));
   EXPECT_EQ(reader.job().channelEmulation.records[3].ChannelCount, 20) << "input 3 after it is packed";
-  EXPECT_EQ(reader.job().channelEmulation.records[19].FadeRate, 12);
+  EXPECT_EQ(reader.job().channelEmulation.records[3].FadeRate, 61);
+}
+
+// A board image whose second bank holds inputs 19 and 20 keeps them through an open and a save,
+// while the action two that the job gives input 3 is never written.
+TEST_F(SaveAndOpenEdges, SecondBankInputsOfAnImageAreKeptAndActionTwoIsNotWritten) {
+  buildJob(author, 1);
+  save(author, folder.file("a.txt"));
+  std::string image = readAll(folder.path() / "a.zpd");
+  EXPECT_EQ(image.substr(20900, 300), std::string(300, '\0')) << "action two of input 3";
+  EXPECT_EQ(readAll(folder.path() / "a.txt").find("P,2"), std::string::npos);
+
+  const auto put = [&](int base, const std::vector<int>& bytes) {
+    for (std::size_t i = 0; i < bytes.size(); ++i) image[static_cast<std::size_t>(base) + i] = static_cast<char>(bytes[i]);
+  };
+  put(20900, {9, 0, 3, 2, 60, 0, 50, 0, 52, 1, 80, 0, 54});  // input 19
+  put(21200, {4, 0, 1, 1, 30, 0, 7});                        // input 20; input 4 is not in use
+  open(reader, folder.write("b.zpd", image));
+  save(reader, folder.file("b.txt"));
+  EXPECT_EQ(readAll(folder.path() / "b.zpd"), image);
+  const std::string text = readAll(folder.path() / "b.txt");
+  EXPECT_NE(text.find(":\r\n\r\n\r\nP,2,I,3,F,9,\r\nL,60,C,50,52,\r\nL,80,C,54,:"), std::string::npos) << text;
+  EXPECT_EQ(text.find("P,2,I,4"), std::string::npos) << "written only after its first-bank partner";
+  EXPECT_TRUE(reader.shown().empty());
 }
 
 TEST_F(SaveAndOpenEdges, ALargeTimerAndTheScanBytesComeBackWhole) {

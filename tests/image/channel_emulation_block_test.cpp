@@ -19,7 +19,8 @@ using testing::bytesAt;
 using Slot = std::pair<int, int>;  // channel (0 never used, -1 deleted), level
 using Record = job::ChannelEmulationRecord;
 
-constexpr int kBase = 8900;  // input 3
+constexpr int kInput = 3;
+constexpr int kBase = map::blockBase(kInput);
 constexpr std::uint8_t kSentinel = 0xEE;
 
 Record recordOf(int fade, const std::vector<Slot>& slots) {
@@ -70,7 +71,7 @@ TEST_F(ChannelBlock, GroupsFollowSlotOrderAndSkipHoles) {
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.name);
-    PackChannelBlock(*image, kBase, recordOf(0, c.slots));
+    PackChannelBlock(*image, kInput, recordOf(0, c.slots));
     EXPECT_EQ(bytesAt(*image, kBase, static_cast<int>(c.expected.size())), c.expected);
   }
 }
@@ -94,14 +95,14 @@ TEST_F(ChannelBlock, ManyShapesComeBackAsPacked) {
     SCOPED_TRACE(::testing::Message() << "round " << round << ", " << taken.size() << " channels");
     image->fill(0, map::kImageSize - 1, kSentinel);
     if (!channelsFit(r, r)) {
-      EXPECT_THROW(PackChannelBlock(*image, kBase, r), job::RuntimeError);
+      EXPECT_THROW(PackChannelBlock(*image, kInput, r), job::RuntimeError);
       continue;
     }
     ++packed;
-    PackChannelBlock(*image, kBase, r);
+    PackChannelBlock(*image, kInput, r);
     ASSERT_TRUE(onlyBlockTouched(*image, kBase));
     auto back = std::make_unique<Record>();
-    DecodeChannelBlock(*image, kBase, *back);
+    DecodeChannelBlock(*image, kInput, *back);
     EXPECT_EQ(back->FadeRate, r.FadeRate);
     EXPECT_EQ(back->ChannelCount, static_cast<int>(taken.size()));
     EXPECT_EQ(liveSlots(*back), liveSlots(r));
@@ -114,12 +115,17 @@ TEST_F(ChannelBlock, ScatteredChannelsAtAlternatingLevelsDoNotFit) {
   std::vector<Slot> slots;
   for (int i = 0; i < 150; ++i) slots.emplace_back(2 * i + 1, i % 2 == 0 ? 10 : 20);
   const Record r = recordOf(3, slots);
-  const Record empty;
-  EXPECT_FALSE(channelsFit(r, empty));
-  EXPECT_FALSE(channelsFit(empty, r));
-  EXPECT_THROW(PackChannelBlock(*image, kBase, r), job::RuntimeError);
+  EXPECT_THROW(PackChannelBlock(*image, kInput, r), job::RuntimeError);
   EXPECT_TRUE(onlyBlockTouched(*image, kBase));
   EXPECT_EQ(bytesAt(*image, kBase, 3), (std::vector<int>{kSentinel, kSentinel, kSentinel})) << "nothing written";
+
+  // Action two never reaches the board, so only a second-bank input in its record can refuse.
+  const Record empty;
+  Record secondBank = r;
+  secondBank.InputNumber = 19;
+  EXPECT_FALSE(channelsFit(r, empty));
+  EXPECT_TRUE(channelsFit(empty, r));
+  EXPECT_FALSE(channelsFit(empty, secondBank));
 }
 
 TEST_F(ChannelBlock, OneHundredFiftyChannelsAsRangesFit) {
@@ -129,10 +135,10 @@ TEST_F(ChannelBlock, OneHundredFiftyChannelsAsRangesFit) {
   }
   const Record r = recordOf(3, slots);
   ASSERT_TRUE(channelsFit(r, r));
-  PackChannelBlock(*image, kBase, r);
+  PackChannelBlock(*image, kInput, r);
   EXPECT_EQ(image->at(kBase + 2), 150);
   auto back = std::make_unique<Record>();
-  DecodeChannelBlock(*image, kBase, *back);
+  DecodeChannelBlock(*image, kInput, *back);
   EXPECT_EQ(liveSlots(*back), slots);
 
   slots.emplace_back(301, 10);
@@ -157,26 +163,32 @@ TEST_F(ChannelBlock, DecodingCraftedGarbageStaysInTheBlock) {
     image->fill(kBase, kBase + 299, 0);
     for (std::size_t i = 0; i < c.block.size(); ++i) image->put(kBase + static_cast<int>(i), c.block[i]);
     auto back = std::make_unique<Record>();
-    DecodeChannelBlock(*image, kBase, *back);
+    DecodeChannelBlock(*image, kInput, *back);
     EXPECT_EQ(liveSlots(*back), c.expected);
     EXPECT_EQ(back->ChannelCount, static_cast<int>(c.expected.size()));
   }
 }
 
-// A block at the image's very end: a read past the block would be a read past the image.
+// Bytes outside the last block are drawn again between two reads: a read past the block would
+// change what it decodes.
 TEST_F(ChannelBlock, DecodingRandomBytesNeverReadsPastTheBlock) {
-  constexpr int kLastBlock = map::kImageSize - 300;
+  constexpr int kLastInput = 32;
+  const int first = map::blockBase(kLastInput);
   std::mt19937 rng(7);
   std::uniform_int_distribution<int> byte(0, 255);
   auto back = std::make_unique<Record>();
+  auto again = std::make_unique<Record>();
   for (int round = 0; round < 300; ++round) {
     SCOPED_TRACE(::testing::Message() << "round " << round);
     for (auto& b : image->bytes()) b = static_cast<std::uint8_t>(byte(rng));
-    if (round % 2 == 0) image->put(kLastBlock + 3, 255);  // a count that claims more than fits
-    ASSERT_NO_THROW(DecodeChannelBlock(*image, kLastBlock, *back));
+    if (round % 2 == 0) image->put(first + 3, 255);  // a count that claims more than fits
+    ASSERT_NO_THROW(DecodeChannelBlock(*image, kLastInput, *back));
     EXPECT_LE(back->ChannelCount, 150);
     EXPECT_EQ(static_cast<int>(liveSlots(*back).size()), back->ChannelCount);
     for (const Slot& s : liveSlots(*back)) ASSERT_LE(s.first, 2048);
+    for (int i = first + 300; i < map::kImageSize; ++i) image->put(i, byte(rng));
+    DecodeChannelBlock(*image, kLastInput, *again);
+    ASSERT_EQ(liveSlots(*again), liveSlots(*back));
   }
 }
 

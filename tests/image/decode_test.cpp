@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <memory>
 #include <random>
+#include <utility>
+#include <vector>
 
 #include "image/decode.h"
 #include "image/pack.h"
@@ -70,6 +72,43 @@ TEST(DecodeRoundTrip, PresetsComeBackInTheirSavedOrder) {
   PackPresetEmulation(*again, back->presetEmulation);
   const auto first = image->bytes().subspan(8300, 16800), second = again->bytes().subspan(8300, 16800);
   EXPECT_TRUE(std::equal(first.begin(), first.end(), second.begin())) << "packed again, the blocks are the same";
+}
+
+// A second-bank block is an input of its own: its channels come back as they are, byte +0 into
+// word 6 and the record in use. Without one, action two is action one's channels at 0%.
+TEST(DecodeChannelEmulation, SecondBankBlocksAreInputsOfTheirOwn) {
+  auto image = std::make_unique<EepromImage>();
+  const auto put = [&](int base, const std::vector<int>& bytes) {
+    for (std::size_t i = 0; i < bytes.size(); ++i) image->put(base + static_cast<int>(i), bytes[i]);
+  };
+  put(8900, {5, 0, 2, 2, 100, 0, 10, 128, 11});      // input 3: 10..11 at 100%
+  put(20900, {9, 0, 3, 2, 60, 0, 50, 0, 52, 1, 80, 0, 54});  // input 19
+  put(9200, {6, 0, 1, 1, 20, 0, 70});               // input 4, with no input 20
+  auto table = std::make_unique<job::ChannelEmulationTable>();
+  table->records[19].FadeRate = table->records[20].FadeRate = 12;  // left from the job before
+  DecodeChannelEmulation(*image, *table);
+
+  using Slots = std::vector<std::pair<int, int>>;
+  const auto live = [&](int k) {
+    Slots slots;
+    const job::ChannelEmulationRecord& r = table->records[static_cast<std::size_t>(k)];
+    for (std::size_t s = 0; s < r.Channels.size(); ++s) {
+      if (r.Channels[s] > 0) slots.emplace_back(r.Channels[s], r.Levels[s]);
+    }
+    return slots;
+  };
+  const job::ChannelEmulationRecord &three = table->records[3], &nineteen = table->records[19],
+                                    &twenty = table->records[20];
+  EXPECT_EQ(three.FadeRate, 5);
+  EXPECT_EQ(live(3), (Slots{{10, 100}, {11, 100}}));
+  EXPECT_TRUE(job::inUse(nineteen));
+  EXPECT_EQ(nineteen.Header6, 9);
+  EXPECT_EQ(nineteen.FadeRate, 0);
+  EXPECT_EQ(live(19), (Slots{{50, 60}, {52, 60}, {54, 80}}));
+  EXPECT_FALSE(job::inUse(twenty));
+  EXPECT_EQ(twenty.FadeRate, 0);
+  EXPECT_EQ(live(20), (Slots{{70, 0}}));
+  EXPECT_EQ(twenty.ChannelCount, 1);
 }
 
 }  // namespace

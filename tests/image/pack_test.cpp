@@ -223,5 +223,27 @@ TEST_F(Packing, AThirtyEighthPresetEntryRunsIntoTheNextBlock) {
   EXPECT_EQ(bytesAt(image, 8596, 8), (std::vector<int>{13, 0, 38, 0, 5, 0, 6, 0}));
 }
 
+// Input 3's action two stays on the form; input 20, a second-bank input in use as an opened
+// image leaves it, is written with its own setting at +0, not a fade rate.
+TEST_F(Packing, ChannelBlocksHoldActionOneAndSecondBankInputsInUse) {
+  auto table = std::make_unique<job::ChannelEmulationTable>();
+  const auto set = [&](int k, int inputNumber, int fade, int channel, int level) -> job::ChannelEmulationRecord& {
+    job::ChannelEmulationRecord& r = table->records[static_cast<std::size_t>(k)];
+    r.InputNumber = static_cast<std::int16_t>(inputNumber);
+    r.FadeRate = static_cast<std::int16_t>(fade);
+    r.Channels[0] = static_cast<std::int16_t>(channel);
+    r.Levels[0] = static_cast<std::int16_t>(level);
+    return r;
+  };
+  set(3, 3, 61, 10, 75);
+  set(19, 0, 12, 10, 40);
+  set(20, 20, 33, 7, 30).Header6 = 9;
+  untouchedEverywhere();
+  for (int k = 1; k <= 32; ++k) PackChannelEmulationInput(image, *table, k);
+  EXPECT_EQ(bytesAt(image, 8900, 8), (std::vector<int>{61, 0, 1, 1, 75, 0, 10, 0}));
+  EXPECT_EQ(bytesAt(image, 20900, 3), (std::vector<int>{kUntouched, kUntouched, kUntouched})) << "action two";
+  EXPECT_EQ(bytesAt(image, 21200, 8), (std::vector<int>{9, 0, 1, 1, 30, 0, 7, 0}));
+}
+
 }  // namespace
 }  // namespace pellam::image

@@ -23,7 +23,7 @@ class FormView final : public QWidget {
   QWidget* widgetFor(std::string_view name);
   // Redraws every marked control now.
   void flush();
-  // Told after a person's action has run, so that the window can note unsaved changes.
+  // Told after a person's action has run, so that the window can show whether the job changed.
   std::function<void()> onPersonAction;
 
  private:

@@ -23,7 +23,6 @@ MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent), dialogs_(this), session_(dialogs_, viewer_, clock_), class1_(session_) {
   view_ = new FormView(session_.form);
   view_->onPersonAction = [this] {
-    unsaved_ = true;
     fresh_ = false;
     updateTitle();
   };
@@ -42,7 +41,11 @@ MainWindow::MainWindow(QWidget* parent)
   updateTitle();
 }
 
-MainWindow::~MainWindow() { session_.uploadPage.keepResponsive = nullptr; }
+// The form view observes the session's form: it goes before the session does.
+MainWindow::~MainWindow() {
+  session_.uploadPage.keepResponsive = nullptr;
+  delete takeCentralWidget();
+}
 
 void MainWindow::buildMenu() {
   QMenu* job = menuBar()->addMenu(tr("&Job"));
@@ -131,7 +134,7 @@ void MainWindow::upload() {
 }
 
 bool MainWindow::mayDiscard() {
-  if (!unsaved_) return true;
+  if (!session_.modified()) return true;
   const auto answer = QMessageBox::question(this, tr("Pellam Setup"), tr("Save the changes to this job?"),
                                             QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
   if (answer == QMessageBox::Save) return save();
@@ -149,13 +152,12 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::setJob(const QString& jobPath) {
   jobPath_ = jobPath;
-  unsaved_ = false;
   updateTitle();
 }
 
 void MainWindow::updateTitle() {
   const QString name = jobPath_.isEmpty() ? tr("New Job") : QFileInfo(jobPath_).fileName();
-  setWindowTitle(QStringLiteral("%1%2 - Pellam Setup").arg(name, unsaved_ ? "*" : ""));
+  setWindowTitle(QStringLiteral("%1%2 - Pellam Setup").arg(name, session_.modified() ? "*" : ""));
 }
 
 }  // namespace pellam::qt

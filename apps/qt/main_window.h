@@ -27,7 +27,6 @@ class MainWindow final : public QMainWindow {
 
   component::Session& session() { return session_; }
   FormView& form() { return *view_; }
-  bool unsavedChanges() const { return unsaved_; }
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -50,7 +49,6 @@ class MainWindow final : public QMainWindow {
   component::Class1 class1_;
   FormView* view_;
   QString jobPath_;  // the .txt a save goes to
-  bool unsaved_ = false;
   bool fresh_ = false;  // start-up has run and nothing changed since
 };
 

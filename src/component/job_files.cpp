@@ -157,6 +157,7 @@ std::string SaveJobSequence(Session& s, const std::string& jobPath, const std::s
     }
   }
   ui::trap(s.dialogs(), "Error module LoadNetIds", [&] { fillNetIdLists(s.form, NetIdChoice::Keep); });
+  if (!zpd.empty()) s.markUnmodified();
   return zpd;
 }
 
@@ -205,6 +206,7 @@ bool OpenJobSequence(Session& s, const std::string& path) {
   s.currentJobFile = path;
   s.companionReport.clear();
   if (s.job.board.OperatingMode == 3) s.companionReport = files::ReadTextFile(files::companionReportPath(path)).value_or("");
+  s.markUnmodified();
   return true;
 }
 

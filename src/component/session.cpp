@@ -1,5 +1,7 @@
 #include "component/session.h"
 
+#include "job/job_content.h"
+
 #include <iostream>
 #include <memory>
 
@@ -25,6 +27,8 @@ Session::Session(ui::Dialogs& dialogs, ui::Shell& shell, ui::Clock& clock)
       uploadPage(*this) {
   navigation.setBoardPage(boardPage);
 }
+
+bool Session::modified() const { return !job::sameContent(job, unmodified_); }
 
 Session& Session::shared() {
   static UnattendedDialogs dialogs(std::cerr);

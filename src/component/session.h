@@ -76,8 +76,14 @@ class Session {
   image::EepromImage image;
   ui::UserForm1 form;
 
+  // Whether the job holds anything that was not there when it was last started, opened or
+  // saved: every face asks this before it lets a job go.
+  bool modified() const;
+  void markUnmodified() { unmodified_ = job; }
+
  private:
   PlatformProxy platform_;
+  job::Job unmodified_;
 
  public:
   PageNavigation navigation;

@@ -112,6 +112,7 @@ void Initailize_Pellam_Variables_And_Form(Session& s) {
   ui::trap(d, "Error module LoadRemoteCommandLists", [&] { fillRemoteCommandLists(f); });
   ui::trap(d, "Error module ClearRemoteCommands", [&] { s.remoteCommandsPage.Clear(); });
   ui::trap(d, "Error module ClearInputNumbering", [&] { s.inputNumberingPage.Clear(); });
+  s.markUnmodified();
 }
 
 }  // namespace pellam::component

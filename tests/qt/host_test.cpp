@@ -73,9 +73,9 @@ TEST(AppAsHost, AFileOfAnotherKindIsOpenedOnlyAfterYes) {
 TEST(AppAsHost, SavedJobOpensWithItsModeAndName) {
   FormDriver app;
   app.confirmBoard(5);
-  EXPECT_TRUE(app.window().unsavedChanges());
+  EXPECT_TRUE(app.window().session().modified());
   ASSERT_TRUE(app.window().saveTo(QString::fromStdString((app.folder / "Hall.txt").string())));
-  EXPECT_FALSE(app.window().unsavedChanges());
+  EXPECT_FALSE(app.window().session().modified());
 
   FormDriver other;
   other.window().openJob(QString::fromStdString((app.folder / "Hall.zpd").string()));
@@ -83,6 +83,24 @@ TEST(AppAsHost, SavedJobOpensWithItsModeAndName) {
   EXPECT_EQ(other.shownText("ComboBox1"), "Station Link");
   EXPECT_TRUE(other.tabShown(5));
   EXPECT_EQ(other.window().windowTitle(), "Hall.txt - Pellam Setup");
+}
+
+// Looking at a job changes nothing; the form's own Save Job button saves it as the menu does.
+TEST(AppAsHost, OnlyChangesMarkTheJobAndEverySaveClearsTheMark) {
+  FormDriver app;
+  app.confirmBoard(2);
+  ASSERT_TRUE(app.window().saveTo(QString::fromStdString((app.folder / "Hall.txt").string())));
+  app.showPage("Page3");
+  app.showPage("Page1");
+  EXPECT_EQ(app.window().windowTitle(), "Hall.txt - Pellam Setup");
+  app.choose("ComboBox48", 1);
+  EXPECT_EQ(app.window().windowTitle(), "Hall.txt* - Pellam Setup");
+  app.choose("ComboBox48", 2);
+  EXPECT_EQ(app.window().windowTitle(), "Hall.txt - Pellam Setup") << "a change taken back is no change";
+  app.choose("ComboBox48", 1);
+  app.type("TextBox101", QString::fromStdString((app.folder / "Hall.txt").string()));
+  app.click("CommandButton26");
+  EXPECT_FALSE(app.window().session().modified());
 }
 
 TEST(AppAsHost, ClosingAChangedJobAsksFirst) {

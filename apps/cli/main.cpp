@@ -11,9 +11,8 @@
 #include "component/job_listing.h"
 #include "component/script/form_script.h"
 #include "component/unattended_session.h"
+#include "files/file_type.h"
 #include "files/job_paths.h"
-#include "files/open_job.h"
-#include "image/memory_map.h"
 
 namespace {
 
@@ -60,18 +59,8 @@ int runScript(const std::string& path) {
 
 int showJob(const std::string& path) {
   namespace component = pellam::component;
-  namespace map = pellam::image::map;
-  auto file = pellam::files::OpenImageFile(path);
-  std::vector<std::uint8_t> bytes(map::kZpdSize);
-  const long size = file ? pellam::files::ReadImageBytes(*file, bytes) : -1;
-  if (size < 0) {
-    std::cerr << "pellam: cannot read " << path << "\n";
-    return kRefused;
-  }
-  const int type = size > map::kProductTypeByte ? bytes[map::kProductTypeByte] : -1;
-  if (type != map::kProductTypeValue) {
-    std::cerr << "pellam: " << path << " is not a Pellam job image (" << size << " bytes, type byte "
-              << (type < 0 ? std::string("missing") : std::to_string(type)) << ", not 11)\n";
+  if (const auto job = pellam::files::ReadJobImage(path); !job.problem.empty()) {
+    std::cerr << "pellam: " << job.problem << "\n";
     return kRefused;
   }
   component::UnattendedSession session(std::cerr);

@@ -1,11 +1,11 @@
 #include "component/upload_page.h"
 
 #include <chrono>
-#include <filesystem>
-#include <system_error>
+#include <utility>
 
 #include "component/session.h"
 #include "files/controller_settings.h"
+#include "files/file_type.h"
 #include "files/job_paths.h"
 #include "files/upload.h"
 #include "ui/trap.h"
@@ -43,13 +43,8 @@ void UploadPage::Upload() {
   files::UploadRequest request;
   request.netId = netId;
   request.imagePath = imageToSend();
-  std::error_code ec;
   if (request.imagePath.empty()) {
     d.msgBox("No File Selected", ui::Buttons::OK);
-    return;
-  }
-  if (!std::filesystem::is_regular_file(files::fsPath(request.imagePath), ec)) {
-    d.msgBox("Cannot Open File: " + request.imagePath, ui::Buttons::OK);
     return;
   }
   request.addressText = f.TextBox7.text();
@@ -69,6 +64,13 @@ void UploadPage::Upload() {
     return;
   }
   request.settings = settings.settings;
+  // Read once: the bytes checked here are the bytes sent.
+  files::JobImage job = files::ReadJobImage(request.imagePath);
+  if (!job.problem.empty()) {
+    d.msgBox(job.problem, ui::Buttons::OK);
+    return;
+  }
+  request.image = std::move(job.bytes);
 
   busy_ = true;
   f.Label60.setCaption("Starting Up Load Please Wait");
@@ -83,9 +85,10 @@ void UploadPage::Upload() {
     if (keepResponsive) keepResponsive();
   };
   ui::trap(d, "RQC Connection Time Out", [&] {
-    const files::UploadResult result = files::UploadImage(request, *transport, d, s_.clock(), tick);
-    lastCompleted = result.completed;
-    if (result.logged) f.Label62.setCaption(result.logPath);
+    const files::UploadOutcome outcome = files::UploadImage(request, *transport, s_.clock(), tick);
+    lastCompleted = outcome.completed;
+    for (const std::string& message : outcome.messages) d.msgBox(message, ui::Buttons::OK);
+    if (!outcome.logPath.empty()) f.Label62.setCaption(outcome.logPath);
   });
   f.Label60.setCaption("Click On File Name To UpLoad");
   f.Label60.setVisible(true);

@@ -27,7 +27,7 @@ class UploadPage {
   std::unique_ptr<files::FtpTransport> transport;
   // Run while the transfer goes on, so that a face can redraw and take clicks.
   std::function<void()> keepResponsive;
-  // Whether the last upload reached the controller and it took the file.
+  // Whether the controller confirmed it took every byte of the last upload.
   bool lastCompleted = false;
 
  private:

@@ -6,6 +6,7 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include "files/controller_address.h"
 
@@ -29,18 +30,37 @@ struct TransferProgress {
 // Called at least ten times a second while a transfer runs, so that a face can stay usable.
 using TransferTick = std::function<void(const TransferProgress&)>;
 
-// The controller did not answer within the time-out.
-class TransferTimedOut : public std::runtime_error {
+enum class TransferFailure {
+  None,
+  NotReached,    // no controller at that address
+  LoginRefused,
+  TimedOut,
+  Broken,        // reached and logged in, but the file was not confirmed whole
+};
+
+// What the transport knows, not what the dialogue's texts suggest: a greeting or a reply may
+// hold any words, so only the transfer itself can say that the controller took the file.
+struct TransferResult {
+  bool completed = false;  // the controller confirmed the transfer and every byte went
+  long long bytesSent = 0;
+  long long bytesTotal = 0;
+  TransferFailure failure = TransferFailure::None;
+  std::string why;  // what failed, for a person; empty when completed
+};
+
+// A file of our own that could not be made or written; the path is named to the person.
+class CannotWriteFile : public std::runtime_error {
  public:
-  TransferTimedOut() : std::runtime_error("the controller did not answer in time") {}
+  explicit CannotWriteFile(std::string path) : std::runtime_error("cannot write " + path), path(std::move(path)) {}
+  std::string path;
 };
 
 // Sends the file and leaves the controller's side of the dialogue in `folder`/r.txt, as the
-// command-line client would have printed it. Throws TransferTimedOut.
+// command-line client would have printed it. Throws CannotWriteFile for r.txt.
 class FtpTransport {
  public:
   virtual ~FtpTransport() = default;
-  virtual void run(const TransferJob& job, const TransferTick& tick) = 0;
+  virtual TransferResult run(const TransferJob& job, const TransferTick& tick) = 0;
 };
 
 // libcurl where it is built in; on Windows the batch file and the system's ftp client.

@@ -1,10 +1,15 @@
 // Windows: the batch file runs the system's ftp client, whose console output lands in r.txt.
 #include <windows.h>
 
+#include <fstream>
 #include <memory>
+#include <sstream>
 #include <string>
+#include <system_error>
 
 #include "files/ftp_transport.h"
+#include "files/transfer_result.h"
+#include "files/upload.h"
 
 namespace pellam::files {
 
@@ -12,7 +17,7 @@ namespace {
 
 class BatchTransport final : public FtpTransport {
  public:
-  void run(const TransferJob& job, const TransferTick& tick) override {
+  TransferResult run(const TransferJob& job, const TransferTick& tick) override {
     std::wstring command = L"cmd.exe /c FTPdata.bat";
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
@@ -32,7 +37,18 @@ class BatchTransport final : public FtpTransport {
     }
     if (state == WAIT_TIMEOUT) TerminateProcess(process.hProcess, 1);
     CloseHandle(process.hProcess);
-    if (state == WAIT_TIMEOUT) throw TransferTimedOut();
+    std::error_code ec;
+    const auto total = static_cast<long long>(std::filesystem::file_size(job.folder / job.fileName, ec));
+    std::ifstream in(job.folder / kCapturedName, std::ios::binary);
+    std::ostringstream output;
+    if (in) output << in.rdbuf();
+    TransferResult r = clientTransferResult(output.str(), total);
+    if (state == WAIT_TIMEOUT) {
+      r.completed = false;
+      r.failure = TransferFailure::TimedOut;
+      r.why = failureWhy(r.failure, output.str());
+    }
+    return r;
   }
 };
 

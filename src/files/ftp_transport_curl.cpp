@@ -9,6 +9,8 @@
 #include <mutex>
 
 #include "files/ftp_transport.h"
+#include "files/job_paths.h"
+#include "files/transfer_result.h"
 #include "files/upload.h"
 
 namespace pellam::files {
@@ -40,7 +42,8 @@ int onProgress(void* user, curl_off_t, curl_off_t, curl_off_t ultotal, curl_off_
 }
 
 // What the command-line client prints when it never reached the controller.
-std::string clientNote(CURLcode code, const std::string& host) {
+std::string clientNote(CURLcode code, const std::string& host, bool answered) {
+  if (answered) return {};
   switch (code) {
     case CURLE_COULDNT_RESOLVE_HOST: return "Unknown host " + host + ".\r\n";
     case CURLE_COULDNT_CONNECT:
@@ -54,7 +57,7 @@ std::string clientNote(CURLcode code, const std::string& host) {
 
 class CurlTransport final : public FtpTransport {
  public:
-  void run(const TransferJob& job, const TransferTick& tick) override {
+  TransferResult run(const TransferJob& job, const TransferTick& tick) override {
     static std::once_flag global;
     std::call_once(global, [] { curl_global_init(CURL_GLOBAL_DEFAULT); });
 
@@ -99,16 +102,37 @@ class CurlTransport final : public FtpTransport {
       if (running) curl_multi_poll(multi.get(), nullptr, 0, 100, nullptr);
       if (tick) tick(t.progress);
     }
-    CURLcode code = CURLE_OK;
+    // Without a word from libcurl that it finished, the transfer is not taken as done.
+    CURLcode code = CURLE_FAILED_INIT;
     int left = 0;
     while (CURLMsg* msg = curl_multi_info_read(multi.get(), &left)) {
       if (msg->msg == CURLMSG_DONE) code = msg->data.result;
     }
+    curl_off_t uploaded = 0;
+    curl_easy_getinfo(e, CURLINFO_SIZE_UPLOAD_T, &uploaded);
     curl_multi_remove_handle(multi.get(), e);
-    if (code == CURLE_OPERATION_TIMEDOUT) throw TransferTimedOut();
 
-    std::ofstream out(job.folder / kCapturedName, std::ios::binary | std::ios::trunc);
-    out << t.replies << clientNote(code, job.address.host);
+    const std::string note = clientNote(code, job.address.host, !t.replies.empty());
+    TransferResult r;
+    r.bytesSent = uploaded;
+    r.bytesTotal = size;
+    // CURLE_OK on an upload means the controller's final reply, after the data, was positive.
+    r.completed = code == CURLE_OK && uploaded == size;
+    if (!r.completed) {
+      r.failure = code == CURLE_OPERATION_TIMEDOUT ? TransferFailure::TimedOut
+                  : code == CURLE_LOGIN_DENIED     ? TransferFailure::LoginRefused
+                  : !note.empty()                  ? TransferFailure::NotReached
+                                                   : TransferFailure::Broken;
+      r.why = failureWhy(r.failure, t.replies);
+    }
+    // A controller that never said a word leaves nothing to log, as the client would.
+    if (r.failure == TransferFailure::TimedOut && t.replies.empty()) return r;
+    const auto captured = job.folder / kCapturedName;
+    std::ofstream out(captured, std::ios::binary | std::ios::trunc);
+    out << t.replies << note;
+    out.close();
+    if (!out) throw CannotWriteFile(utf8Text(captured));
+    return r;
   }
 };
 

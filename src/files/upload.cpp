@@ -2,12 +2,16 @@
 
 #include <cstdio>
 #include <fstream>
+#include <optional>
 #include <sstream>
+#include <string_view>
 #include <system_error>
 
 #include "files/date_text.h"
 #include "files/job_paths.h"
-#include "ui/trap.h"
+#include "files/log_append.h"
+#include "files/transfer_result.h"
+#include "files/working_folder.h"
 
 namespace pellam::files {
 
@@ -15,29 +19,34 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void writeWhole(const fs::path& path, const std::string& text) {
+constexpr const char* kCompleted = "Down Load Completed !!";
+
+void writeWhole(const fs::path& path, const char* data, std::size_t size) {
   std::ofstream out(path, std::ios::binary | std::ios::trunc);
-  out << text;
+  out.write(data, static_cast<std::streamsize>(size));
   out.close();
-  if (!out) throw std::runtime_error("cannot write " + utf8Text(path));
+  if (!out) throw CannotWriteFile(utf8Text(path));
 }
 
-// The working files go whatever happens: a failed upload leaves the folder as it found it,
-// but for the log.
-class WorkingFiles {
- public:
-  explicit WorkingFiles(fs::path folder) : folder_(std::move(folder)) { remove(); }
-  ~WorkingFiles() { remove(); }
-  WorkingFiles(const WorkingFiles&) = delete;
-  WorkingFiles& operator=(const WorkingFiles&) = delete;
+void writeWhole(const fs::path& path, const std::string& text) { writeWhole(path, text.data(), text.size()); }
 
- private:
-  void remove() {
-    std::error_code ec;
-    for (const char* name : {kFtpScriptName, kFtpBatchName, kCapturedName}) fs::remove(folder_ / name, ec);
+std::optional<std::string> readWhole(const fs::path& path) {
+  std::ifstream in(path, std::ios::binary);
+  if (!in) return std::nullopt;
+  std::ostringstream text;
+  text << in.rdbuf();
+  if (in.bad()) return std::nullopt;
+  return text.str();
+}
+
+std::string failureMessage(const TransferResult& transfer) {
+  switch (transfer.failure) {
+    case TransferFailure::NotReached: return "RQC Not Found Check IP Address";
+    case TransferFailure::LoginRefused: return "RQC Login Refused";
+    case TransferFailure::TimedOut: return "RQC Connection Time Out";
+    default: return "Down Load Not Completed: " + transfer.why;
   }
-  fs::path folder_;
-};
+}
 
 }  // namespace
 
@@ -57,58 +66,67 @@ std::string uploadLogEntry(const ui::DateTime& when, const std::string& captured
   return std::string(46, '*') + "\r\nDate " + dateText(when) + "\r\nTime " + timeText(when) + "\r\n" + captured;
 }
 
-std::vector<std::string> uploadMessages(const std::string& captured) {
+std::vector<std::string> uploadMessages(const std::string& captured, const TransferResult& transfer) {
   static const std::pair<const char*, const char*> kPhrases[] = {
       {"file open fails", "Station Not Found"},
       {"Unknown host", "RQC Not Found Check IP Address"},
       {"Not connected", "RQC Not Found Check IP Address"},
-      {"ready to take file", "Down Load Completed !!"},
+      {"ready to take file", kCompleted},
   };
   std::vector<std::string> messages;
   for (const auto& [phrase, message] : kPhrases) {
-    if (captured.find(phrase) != std::string::npos) messages.emplace_back(message);
+    if (captured.find(phrase) == std::string::npos) continue;
+    if (std::string_view(message) == kCompleted && !transfer.completed) {
+      messages.push_back("Down Load Not Completed: " + transfer.why);
+    } else {
+      messages.emplace_back(message);
+    }
   }
+  if (!transfer.completed && messages.empty()) messages.push_back(failureMessage(transfer));
   return messages;
 }
 
-UploadResult UploadImage(const UploadRequest& request, FtpTransport& transport, ui::Dialogs& dialogs,
-                         ui::Clock& clock, const TransferTick& tick) {
+UploadOutcome UploadImage(const UploadRequest& request, FtpTransport& transport, ui::Clock& clock,
+                          const TransferTick& tick) {
   const fs::path image = fsPath(request.imagePath);
-  const fs::path folder = image.parent_path().empty() ? fs::path(".") : image.parent_path();
+  const fs::path logPath = (image.parent_path().empty() ? fs::path(".") : image.parent_path()) / kUploadLogName;
   const std::string fileName = utf8Text(image.filename());
   const std::string remote = remoteName(request.settings.prefix, request.netId);
 
-  UploadResult result;
-  WorkingFiles working(folder);
-  writeWhole(folder / kFtpScriptName, ftpScript(request.settings.login, fileName, remote));
-  writeWhole(folder / kFtpBatchName, ftpBatch(request.addressText));
-  transport.run({folder, fileName, remote, request.address, request.settings.login,
-                 std::chrono::seconds(request.settings.timeoutSeconds)},
-                tick);
+  UploadOutcome outcome;
+  try {
+    const WorkingFolder work;
+    writeWhole(work.path() / fileName, reinterpret_cast<const char*>(request.image.data()), request.image.size());
+    writeWhole(work.path() / kFtpScriptName, ftpScript(request.settings.login, fileName, remote));
+    writeWhole(work.path() / kFtpBatchName, ftpBatch(request.addressText));
+    const TransferResult transfer = transport.run({work.path(), fileName, remote, request.address,
+                                                   request.settings.login,
+                                                   std::chrono::seconds(request.settings.timeoutSeconds)},
+                                                  tick);
+    outcome.completed = transfer.completed;
 
-  std::error_code ec;
-  if (!fs::exists(folder / kCapturedName, ec)) return result;
-  std::string captured;
-  const bool read = ui::trap(dialogs, "Connection Time Out", [&] {
-    std::ifstream in(folder / kCapturedName, std::ios::binary);
-    if (!in) throw std::runtime_error("r.txt cannot be read");
-    std::ostringstream text;
-    text << in.rdbuf();
-    captured = text.str();
-  });
-  if (!read) return result;
-
-  result.logPath = utf8Text(fs::absolute(folder / kUploadLogName, ec).lexically_normal());
-  std::ofstream log(folder / kUploadLogName, std::ios::binary | std::ios::app);
-  log << uploadLogEntry(clock.now(), captured);
-  log.close();
-  if (!log) throw std::runtime_error("cannot append to the log");
-  result.logged = true;
-  for (const std::string& message : uploadMessages(captured)) {
-    dialogs.msgBox(message, ui::Buttons::OK);
-    if (message == "Down Load Completed !!") result.completed = true;
+    std::error_code ec;
+    if (!fs::exists(work.path() / kCapturedName, ec)) {
+      if (!transfer.completed) outcome.messages.push_back(failureMessage(transfer));
+      return outcome;
+    }
+    const std::optional<std::string> captured = readWhole(work.path() / kCapturedName);
+    if (!captured) {
+      outcome.messages.emplace_back("Connection Time Out");
+      return outcome;
+    }
+    outcome.messages = uploadMessages(*captured, transfer);
+    // The file may have been taken although the log cannot be written: say both.
+    try {
+      AppendInOneWrite(logPath, uploadLogEntry(clock.now(), *captured));
+      outcome.logPath = utf8Text(fs::absolute(logPath, ec).lexically_normal());
+    } catch (const CannotWriteFile& e) {
+      outcome.messages.push_back("Cannot Write File: " + e.path);
+    }
+  } catch (const CannotWriteFile& e) {
+    outcome.messages.push_back("Cannot Write File: " + e.path);
   }
-  return result;
+  return outcome;
 }
 
 }  // namespace pellam::files

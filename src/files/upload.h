@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -22,28 +23,30 @@ std::string ftpScript(const std::string& login, const std::string& fileName, con
 std::string ftpBatch(const std::string& addressText);
 // 46 asterisks, the date, the time, then the controller's dialogue as captured.
 std::string uploadLogEntry(const ui::DateTime& when, const std::string& captured);
-// The messages the captured dialogue calls for, in the order they are tested.
-std::vector<std::string> uploadMessages(const std::string& captured);
+// The messages the captured dialogue calls for, in the order they are tested; a transfer the
+// transport did not see complete is never called completed, whatever the dialogue says, and
+// is always given a message.
+std::vector<std::string> uploadMessages(const std::string& captured, const TransferResult& transfer);
 
 struct UploadRequest {
-  std::string imagePath;
+  std::string imagePath;            // the person's image; its folder keeps the log
+  std::vector<std::uint8_t> image;  // its bytes as checked, which are the bytes sent
   int netId = 0;
   std::string addressText;  // as typed, already accepted by parseControllerAddress
   ControllerAddress address;
   ControllerSettings settings;
 };
 
-struct UploadResult {
-  bool logged = false;     // an entry was appended to the log
-  bool completed = false;  // the controller took the file
-  std::string logPath;
+struct UploadOutcome {
+  bool completed = false;             // the controller confirmed it took every byte
+  std::string logPath;                // set when an entry was appended to the log
+  std::vector<std::string> messages;  // for the person, in the order they are shown
 };
 
-// Writes the working files beside the image, runs the transfer, logs and evaluates what the
-// controller said, and removes the working files whatever happened. A transfer that fails
-// (time-out included) throws after the clean-up; reading a dialogue that cannot be read is
-// reported as "Connection Time Out".
-UploadResult UploadImage(const UploadRequest& request, FtpTransport& transport, ui::Dialogs& dialogs,
-                         ui::Clock& clock, const TransferTick& tick);
+// Writes the working files in a folder of this upload's own, runs the transfer, logs and
+// evaluates what the controller said, and removes the folder whatever happened. A file that
+// cannot be written is named in the messages.
+UploadOutcome UploadImage(const UploadRequest& request, FtpTransport& transport, ui::Clock& clock,
+                          const TransferTick& tick);
 
 }  // namespace pellam::files

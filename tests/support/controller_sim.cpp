@@ -34,6 +34,10 @@ ControllerSim::ControllerSim(const Options& options) {
                                    "--root", (root_ / "disk").string(), "--stations=" + stations};
   std::filesystem::create_directories(root_ / "disk");
   if (options.silent) args.emplace_back("--silent");
+  if (options.dropAfter >= 0) args.push_back("--drop-after=" + std::to_string(options.dropAfter));
+  if (options.failAfterTransfer) args.emplace_back("--fail-after-transfer");
+  if (options.greeting) args.push_back(std::string("--greeting=") + options.greeting);
+  if (options.refuseLogin) args.emplace_back("--refuse-login");
   std::vector<char*> argv;
   for (std::string& a : args) argv.push_back(a.data());
   argv.push_back(nullptr);

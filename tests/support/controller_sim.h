@@ -15,6 +15,10 @@ class ControllerSim {
   struct Options {
     std::vector<int> stations;  // net ids that have a station
     bool silent = false;        // accepts connections and never answers
+    int dropAfter = -1;         // closes both connections once this many bytes arrived
+    bool failAfterTransfer = false;  // 451 where 226 belongs
+    const char* greeting = nullptr;  // the 220 line's text instead of the server's own
+    bool refuseLogin = false;   // 530 to every login
   };
   explicit ControllerSim(const Options& options);
   ~ControllerSim();

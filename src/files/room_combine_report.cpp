@@ -4,13 +4,14 @@
 
 #include "files/command_text.h"
 #include "files/date_text.h"
+#include "job/domain.h"
 #include "job/runtime_error.h"
 
 namespace pellam::files {
 
 namespace {
 
-constexpr std::size_t kLastReported = 2047;
+constexpr auto kLastReported = static_cast<std::size_t>(job::kLastScannedChannel);
 const std::string kDashes(36, '-');
 const std::string kCrLfs = std::string(kCrLf);
 

@@ -73,7 +73,7 @@ void PackChannelBlock(EepromImage& image, int input, const job::ChannelEmulation
   const int base = map::blockBase(input);
   std::vector<std::uint8_t> block{toByte(blockSetting(record, input)), 0, toByte(liveChannels(record))};
   auto putPair = [&](int channel, bool rangeEnd) {
-    if (channel > kChannelLast) throw job::RuntimeError(job::kOverflow);
+    if (channel > job::kLastChannel) throw job::RuntimeError(job::kOverflow);
     block.push_back(static_cast<std::uint8_t>((channel >> 8) | (rangeEnd ? kRangeEnd : 0)));
     block.push_back(static_cast<std::uint8_t>(channel & 0xFF));
   };
@@ -103,7 +103,7 @@ void DecodeChannelBlock(const EepromImage& image, int input, job::ChannelEmulati
   record.*settingField(input) = block[0];
   int slot = 0;
   auto take = [&](int channel, int level) {
-    if (channel < 1 || channel > kChannelLast || slot >= kChannelsPerInput) return;
+    if (channel < 1 || channel > job::kLastChannel || slot >= kChannelsPerInput) return;
     record.Channels[static_cast<std::size_t>(slot)] = static_cast<std::int16_t>(channel);
     record.Levels[static_cast<std::size_t>(slot)] = static_cast<std::int16_t>(level);
     ++slot;
@@ -117,7 +117,7 @@ void DecodeChannelBlock(const EepromImage& image, int input, job::ChannelEmulati
     for (int p = 0; p < pairs && at + 1 < map::kBlockSize; ++p, at += 2) {
       const int channel = ((block[at] & kChannelHighMask) << 8) | block[at + 1];
       if ((block[at] & kRangeEnd) != 0 && previous > 0) {
-        const int last = std::min(channel, kChannelLast);
+        const int last = std::min(channel, job::kLastChannel);
         const int n = std::min(last - previous, kChannelsPerInput - slot);
         for (int i = 0; i < n; ++i) {
           record.Channels[static_cast<std::size_t>(slot + i)] = static_cast<std::int16_t>(previous + 1 + i);

@@ -29,7 +29,6 @@ namespace pellam::image {
 // A group is a run of slots at one level; a range is a run of consecutive channel numbers,
 // so a range of any length at one level costs 6 bytes, and a scattered channel 2.
 inline constexpr int kChannelsPerInput = 150;
-inline constexpr int kChannelLast = 2048;
 inline constexpr int kChannelBlockGroupsStart = 3;
 
 struct ChannelGroup {

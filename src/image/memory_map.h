@@ -1,5 +1,7 @@
 #pragma once
 
+#include "job/domain.h"
+
 // The board's EEPROM layout: every offset the set-up tool reads or writes, and no offset
 // anywhere else. Offsets are image indices; below kZpdSize they are also .zpd file offsets.
 //
@@ -40,7 +42,7 @@ inline constexpr int kSignatureValue = 11;
 
 inline constexpr int kRoomCombineMapBase = 0;
 inline constexpr int kRoomCombineMapClearLast = 4095;
-inline constexpr int kRoomCombineLastChannel = 2048;
+inline constexpr int kRoomCombineLastChannel = job::kLastChannel;
 inline constexpr int kRoomCombineMapLast = kRoomCombineMapBase + 2 * kRoomCombineLastChannel + 1;
 
 inline constexpr int kInputNumberingClearLast = 255;

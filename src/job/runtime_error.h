@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <limits>
 #include <stdexcept>
 
 namespace pellam::job {
@@ -13,5 +15,15 @@ class RuntimeError : public std::runtime_error {
 
 inline constexpr const char* kOverflow = "Overflow";
 inline constexpr const char* kSubscriptOutOfRange = "Subscript out of range";
+
+// A value into one of the board's 16-bit fields: one that does not fit stops the step with
+// "Overflow", as the board's integers always have, instead of wrapping.
+template <typename Field = std::int16_t>
+Field narrow(long long value) {
+  if (value < std::numeric_limits<Field>::min() || value > std::numeric_limits<Field>::max()) {
+    throw RuntimeError(kOverflow);
+  }
+  return static_cast<Field>(value);
+}
 
 }  // namespace pellam::job

@@ -4,12 +4,12 @@
 #include <cstdint>
 #include <string>
 
+#include "job/domain.h"
+
 // The editors' record tables. Fields are the board's 16-bit integers; 65535 is kept as -1 in
 // the signed tables ("not listed", "deleted"). Each table's clear rule is kept as the editor
 // always had it, including the slots a clear leaves alone.
 namespace pellam::job {
-
-inline constexpr std::int16_t kNotListed = -1;  // 65535 in a signed 16-bit field
 
 // Channel emulation: record n is action one of input n, record n + 16 its action two. Records
 // 17..32 are also where an opened image keeps the board's inputs 17..32 (its second bank).

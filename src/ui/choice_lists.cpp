@@ -1,5 +1,7 @@
 #include "ui/choice_lists.h"
 
+#include "job/domain.h"
+
 namespace pellam::ui::lists {
 
 std::vector<std::string> numbered(std::string_view prefix, int first, int last, std::string_view suffix) {
@@ -60,11 +62,11 @@ std::vector<std::string> fadeRates() {
 }
 
 std::vector<std::string> levels() { return numbered("", 0, 100, "%"); }
-std::vector<std::string> firstChannels() { return withBlank(numbered("Channel :", 1, 2047)); }
+std::vector<std::string> firstChannels() { return withBlank(numbered("Channel :", 1, job::kLastScannedChannel)); }
 std::vector<std::string> inputs() { return withBlank(numbered("Input ", 1, 16)); }
 std::vector<std::string> rooms() { return withBlank(numbered("Room ", 1, 255)); }
 std::vector<std::string> groups() { return withBlank(numbered("Group ", 1, 255)); }
-std::vector<std::string> channels() { return withBlank(numbered("", 1, 2048)); }
+std::vector<std::string> channels() { return withBlank(numbered("", 1, job::kLastChannel)); }
 
 std::vector<std::string> presetStationKinds() {
   return {" ", "T3100 LCD", "T3100 Entry", "T6600 LCD", "T6600 Entry", "Contact Closure"};

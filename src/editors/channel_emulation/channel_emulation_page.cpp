@@ -1,5 +1,7 @@
 #include "editors/channel_emulation/channel_emulation_page.h"
 
+#include "job/runtime_error.h"
+
 #include <algorithm>
 #include <string>
 #include <vector>
@@ -13,7 +15,6 @@ namespace {
 
 constexpr int kActionTwoOffset = 16;
 constexpr int kSearchedSlots = 301;  // slots 0..300, one past what is listed
-constexpr int kLastChannel = 2048;
 constexpr int kLastFullRangeStart = 1898;
 constexpr int kRangeLength = 150;
 constexpr int kChannelEmulationPageIndex = 1;
@@ -32,7 +33,6 @@ int slotOf(const job::ChannelEmulationRecord& record, int channel) {
   return -1;
 }
 
-std::int16_t narrow(int value) { return static_cast<std::int16_t>(value); }
 
 // Lists the live slots of both records; the counts are the caller's to keep or recount.
 void listInput(job::ChannelEmulationRecord& one, job::ChannelEmulationRecord& two, ui::ListBox& listOne,
@@ -58,8 +58,8 @@ void ShowChannelEmulationInput(job::ChannelEmulationTable& table, ui::ListBox& o
   job::ChannelEmulationRecord& a = recordAt(table, input);
   job::ChannelEmulationRecord& b = recordAt(table, input + kActionTwoOffset);
   listInput(a, b, one, two);
-  a.ChannelCount = narrow(one.count());
-  b.ChannelCount = narrow(two.count());
+  a.ChannelCount = job::narrow(one.count());
+  b.ChannelCount = job::narrow(two.count());
 }
 
 void DeleteEmulatedChannel(job::ChannelEmulationTable& table, ui::ListBox& one, ui::ListBox& two, int channel,
@@ -83,18 +83,18 @@ ChannelEmulationPage::ChannelEmulationPage(ui::UserForm1& form, job::ChannelEmul
     : form_(form), table_(table), dialogs_(dialogs) {
   form_.ComboBox26.onClick = [this] { chooseInput(); };
   form_.ComboBox27.onClick = [this] {
-    FadeRateOne = narrow(form_.ComboBox27.listIndex());
+    FadeRateOne = job::narrow(form_.ComboBox27.listIndex());
     form_.Label43.setCaption(fadeRateLabel(FadeRateOne));
   };
   form_.ComboBox49.onClick = [this] {
-    FadeRateTwo = narrow(form_.ComboBox49.listIndex());
+    FadeRateTwo = job::narrow(form_.ComboBox49.listIndex());
     form_.Label51.setCaption(fadeRateLabel(FadeRateTwo));
   };
   form_.ComboBox45.onClick = [this] { chooseFirstChannel(); };
-  form_.ComboBox46.onClick = [this] { ToChannelOffset = narrow(form_.ComboBox46.listIndex()); };
+  form_.ComboBox46.onClick = [this] { ToChannelOffset = job::narrow(form_.ComboBox46.listIndex()); };
   // A level list set back to nothing means 0%, never a level the board cannot store.
-  form_.ComboBox28.onClick = [this] { LevelOne = narrow(std::max(0, form_.ComboBox28.listIndex())); };
-  form_.ComboBox47.onClick = [this] { LevelTwo = narrow(std::max(0, form_.ComboBox47.listIndex())); };
+  form_.ComboBox28.onClick = [this] { LevelOne = job::narrow(std::max(0, form_.ComboBox28.listIndex())); };
+  form_.ComboBox47.onClick = [this] { LevelTwo = job::narrow(std::max(0, form_.ComboBox47.listIndex())); };
   form_.ListBox8.onClick = [this] { clickLine(form_.ListBox8, form_.ListBox9, false); };
   form_.ListBox9.onClick = [this] { clickLine(form_.ListBox9, form_.ListBox8, true); };
   form_.CommandButton19.onClick = [this] { addOrChangeLevelOne(); };
@@ -135,7 +135,7 @@ void ChannelEmulationPage::chooseInput() {
     }
     return;
   }
-  SelectedInput = narrow(position);
+  SelectedInput = job::narrow(position);
   backToIdle();
   ShowChannelEmulationInput(table_, form_.ListBox8, form_.ListBox9, SelectedInput);
   const std::string label = "Input: " + std::to_string(SelectedInput);
@@ -149,13 +149,13 @@ void ChannelEmulationPage::chooseInput() {
 }
 
 void ChannelEmulationPage::chooseFirstChannel() {
-  FromChannel = narrow(form_.ComboBox45.listIndex());
+  FromChannel = job::narrow(form_.ComboBox45.listIndex());
   ToChannelOffset = -1;
   if (FromChannel < 1) {
     form_.ComboBox46.clear();
     return;
   }
-  const int end = FromChannel <= kLastFullRangeStart ? FromChannel + kRangeLength : kLastChannel;
+  const int end = FromChannel <= kLastFullRangeStart ? FromChannel + kRangeLength : job::kLastChannel;
   std::vector<std::string> items;
   items.reserve(static_cast<std::size_t>(end - FromChannel + 1));
   for (int c = FromChannel; c <= end; ++c) items.push_back("Channel :" + std::to_string(c));
@@ -195,7 +195,7 @@ void ChannelEmulationPage::addOrChangeLevelOne() {
   if (inputRefused()) return;
   job::ChannelEmulationRecord& one = actionOne();
   one.InputNumber = SelectedInput;
-  one.PartnerIndex = narrow(SelectedInput + kActionTwoOffset);
+  one.PartnerIndex = job::narrow(SelectedInput + kActionTwoOffset);
   one.FadeRate = FadeRateOne;
   actionTwo().FadeRate = FadeRateTwo;
 
@@ -240,9 +240,9 @@ void ChannelEmulationPage::addChannels() {
     }
     const auto slot = static_cast<std::size_t>(one.ChannelCount);
     const bool taken = changeIfFits([&] {
-      one.Channels[slot] = narrow(c);
+      one.Channels[slot] = job::narrow(c);
       one.Levels[slot] = LevelOne;
-      two.Channels[slot] = narrow(c);
+      two.Channels[slot] = job::narrow(c);
       two.Levels[slot] = 0;
     });
     if (!taken) {

@@ -51,7 +51,7 @@ int SetGroupLabel(job::RoomGroupNames& names, ui::Dialogs& dialogs, const std::s
 void SetRoomName(job::RoomGroupNames& names, const std::string& name, int room, int value) {
   job::RoomGroupName& r = recordOf(names, room);
   r.RoomName = name;
-  r.RoomValue = static_cast<std::int16_t>(value);
+  r.RoomValue = job::narrow(value);
 }
 
 NamingPage::NamingPage(ui::UserForm1& form, job::RoomGroupNames& names, ui::Dialogs& dialogs)

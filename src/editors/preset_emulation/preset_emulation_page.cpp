@@ -1,5 +1,7 @@
 #include "editors/preset_emulation/preset_emulation_page.h"
 
+#include "job/runtime_error.h"
+
 #include <vector>
 
 #include "editors/preset_emulation/list_lines.h"
@@ -45,7 +47,6 @@ int personalityCount(int kind) {
   }
 }
 
-std::int16_t narrow(int value) { return static_cast<std::int16_t>(value); }
 
 }  // namespace
 
@@ -61,9 +62,9 @@ PresetEmulationPage::PresetEmulationPage(ui::UserForm1& form, job::PresetEmulati
   // Set up before any station type is chosen too, so that an opened job lists its kinds by name.
   setUpStationKindNames();
   form_.ComboBox39.onClick = [this] { chooseStationType(); };
-  form_.ComboBox40.onClick = [this] { SelectedAction = narrow(form_.ComboBox40.listIndex()); };
-  form_.ComboBox41.onClick = [this] { SelectedNetId = narrow(form_.ComboBox41.listIndex()); };
-  form_.ComboBox44.onClick = [this] { Personality = narrow(form_.ComboBox44.listIndex() + 1); };
+  form_.ComboBox40.onClick = [this] { SelectedAction = job::narrow(form_.ComboBox40.listIndex()); };
+  form_.ComboBox41.onClick = [this] { SelectedNetId = job::narrow(form_.ComboBox41.listIndex()); };
+  form_.ComboBox44.onClick = [this] { Personality = job::narrow(form_.ComboBox44.listIndex() + 1); };
   form_.CommandButton1.onClick = [this] { add(kx_); };
   form_.CommandButton24.onClick = [this] { add(board_); };
   form_.ListBox5.onClick = [this] { clickLine(kx_); };
@@ -109,7 +110,7 @@ std::string PresetEmulationPage::kindName(int kind) const {
 void PresetEmulationPage::chooseStationType() {
   setUpStationKindNames();
   const int item = form_.ComboBox39.listIndex();
-  StationKindCode = narrow(item >= 1 && item <= static_cast<int>(kKindOfItem.size())
+  StationKindCode = job::narrow(item >= 1 && item <= static_cast<int>(kKindOfItem.size())
                                ? kKindOfItem[static_cast<std::size_t>(item - 1)]
                                : -1);
   SelectedAction = -1;
@@ -150,10 +151,10 @@ void PresetEmulationPage::add(Bank& b) {
     dialogs_.msgBox("Input Memory Full: NetId " + std::to_string(netId) + " Not Added", ui::Buttons::OK);
     return;
   }
-  r = {narrow(netId), StationKindCode, narrow(SelectedAction + 1), Personality, 0};
+  r = {job::narrow(netId), StationKindCode, job::narrow(SelectedAction + 1), Personality, 0};
   form_.Label41.setCaption("KX Input: " + std::to_string(SelectedInput));
   b.list.addItem(entryLine(form_.ComboBox39.text(), r, addedActionText(table_, SelectedNetId, slot)));
-  r.ListPosition = narrow(b.list.count() - 1);
+  r.ListPosition = job::narrow(b.list.count() - 1);
 }
 
 void PresetEmulationPage::clickLine(Bank& b) {
@@ -176,7 +177,7 @@ void PresetEmulationPage::clickLine(Bank& b) {
 
 void PresetEmulationPage::chooseInput() {
   if (ListRefreshing) return;
-  SelectedInput = narrow(form_.ComboBox42.listIndex());
+  SelectedInput = job::narrow(form_.ComboBox42.listIndex());
   emptyBoth();
   if (SelectedInput < 1) {
     dialogs_.msgBox("Input Not Selected", ui::Buttons::OK);
@@ -206,7 +207,7 @@ void PresetEmulationPage::relist(Bank& b, ActionText actionText) {
     if (r.NetIdPlusOne < 1) continue;
     action = actionText(r, action);
     b.list.addItem(entryLine(kindName(r.StationKind), r, action));
-    r.ListPosition = narrow(b.list.count() - 1);
+    r.ListPosition = job::narrow(b.list.count() - 1);
   }
   ListRefreshing = false;
 }

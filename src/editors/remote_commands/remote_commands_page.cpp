@@ -1,5 +1,7 @@
 #include "editors/remote_commands/remote_commands_page.h"
 
+#include "job/runtime_error.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -22,7 +24,6 @@ constexpr int kStationsPerInput = 30;
 constexpr int kLedInput = 1;
 constexpr int kLastInput = 16;
 
-std::int16_t narrow(int value) { return static_cast<std::int16_t>(value); }
 
 job::RemoteCommandBlock& blockOf(job::RemoteCommandTable& table, int input) {
   return table.blocks.at(static_cast<std::size_t>(input));
@@ -93,13 +94,13 @@ void RemoteCommandsPage::ListDecoded() {
     if (b.Mode == kLeds || b.Mode == kButtons) mode = b.Mode;
     if (hasEntries(b)) first = input;
   }
-  table_.RemoteMode = narrow(mode);
+  table_.RemoteMode = job::narrow(mode);
   PrepareControls();
   form_.ComboBox69.select(first);
 }
 
 void RemoteCommandsPage::chooseMode(int mode) {
-  table_.RemoteMode = narrow(mode);
+  table_.RemoteMode = job::narrow(mode);
   PrepareControls();
 }
 
@@ -136,7 +137,7 @@ void RemoteCommandsPage::add() {
     return;
   }
   ui::trap(dialogs_, "Error M11Trap13", [&] {
-    blockOf(table_, input).Page = narrow(page);
+    blockOf(table_, input).Page = job::narrow(page);
     form_.Label70.setCaption(inputCaption(input, page));
   });
   if (refusedUnderTrap("Error M11Trap4", [&] {
@@ -154,10 +155,10 @@ void RemoteCommandsPage::add() {
   ui::trap(dialogs_, "Error M11Trap12", [&] {
     job::RemoteCommandBlock& b = blockOf(table_, target);
     b.Mode = table_.RemoteMode;
-    b.Listed.at(n) = narrow(netId);
-    b.Value.at(n) = narrow(value);
+    b.Listed.at(n) = job::narrow(netId);
+    b.Value.at(n) = job::narrow(value);
     form_.ListBox19.addItem(commandLine(netId, value, table_.RemoteMode));
-    b.Line.at(n) = narrow(form_.ListBox19.count() - 1);
+    b.Line.at(n) = job::narrow(form_.ListBox19.count() - 1);
   });
 }
 
@@ -188,7 +189,7 @@ void RemoteCommandsPage::relist(int input) {
     for (std::size_t n = 0; n < b.Listed.size(); ++n) {
       b.Line[n] = job::kNotListed;
       if (b.Listed[n] <= 0) continue;
-      b.Line[n] = narrow(static_cast<int>(lines.size()));
+      b.Line[n] = job::narrow(static_cast<int>(lines.size()));
       lines.push_back(commandLine(static_cast<int>(n), b.Value[n], table_.RemoteMode));
     }
     form_.ListBox19.setItems(std::move(lines));

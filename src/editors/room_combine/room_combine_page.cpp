@@ -1,5 +1,7 @@
 #include "editors/room_combine/room_combine_page.h"
 
+#include "job/runtime_error.h"
+
 #include <cstddef>
 
 #include "editors/room_combine/list_lines.h"
@@ -8,10 +10,8 @@
 namespace pellam::editors::room_combine {
 
 namespace {
-constexpr int kNotListed = 2049;
-constexpr std::uint16_t kDeleted = 65535;
+constexpr int kNoLine = job::kLastChannel + 1;
 
-std::uint16_t narrow(int value) { return static_cast<std::uint16_t>(value); }
 }  // namespace
 
 RoomCombinePage::RoomCombinePage(ui::UserForm1& form, job::RoomCombineTable& table, ui::Dialogs& dialogs)
@@ -58,26 +58,26 @@ void RoomCombinePage::add() {
   ui::ListBox& list = form_.ListBox1;
   allView_.rebuild(table_, list);
   const int line = listedLineOf(channel);
-  if (line < kNotListed) {
+  if (line < kNoLine) {
     dialogs_.msgBox("Duplicate Channel", ui::Buttons::OK);
     selectLine(line - 1);
     return;
   }
   job::RoomCombineRecord& r = table_.records[static_cast<std::size_t>(channel)];
-  r = {narrow(channel), narrow(group), narrow(room), 0};
+  r = {job::narrow<std::uint16_t>(channel), job::narrow<std::uint16_t>(group), job::narrow<std::uint16_t>(room), 0};
   list.addItem(addedLine(form_.ComboBox36.text(), form_.ComboBox37.text(), form_.ComboBox38.text()));
-  r.CombineListLine = narrow(list.count());
+  r.CombineListLine = job::narrow<std::uint16_t>(list.count());
   allView_.appended(r);
   selectLine(list.count() - 1);
 }
 
-// The line the channel's record was given by the last view, kNotListed when no record holds it.
+// The line the channel's record was given by the last view, kNoLine when no record holds it.
 int RoomCombinePage::listedLineOf(int channel) const {
-  for (int c = 1; c <= kLastChannel; ++c) {
+  for (int c = 1; c <= job::kLastChannel; ++c) {
     const job::RoomCombineRecord& r = table_.records[static_cast<std::size_t>(c)];
     if (r.CombineChannel == channel) return r.CombineListLine;
   }
-  return kNotListed;
+  return kNoLine;
 }
 
 void RoomCombinePage::remove() {
@@ -93,7 +93,7 @@ void RoomCombinePage::remove() {
   r.CombineRoom = 0;
   form_.Label38.setCaption("");
   allView_.rebuild(table_, form_.ListBox1);
-  r.CombineListLine = kDeleted;
+  r.CombineListLine = job::kNotListedUnsigned;
   form_.ComboBox36.setListIndex(0);
   form_.ComboBox37.setListIndex(0);
   dialogs_.msgBox("Entry Has Been Deleted", ui::Buttons::OK);
@@ -126,9 +126,9 @@ void RoomCombinePage::removeAll(int number, Field field, const std::string& none
       return;
     }
     if (dialogs_.msgBox(question + std::to_string(number), ui::Buttons::YesNo) == ui::Answer::No) return;
-    for (int c = 0; c <= kLastFilteredChannel; ++c) {
+    for (int c = 0; c <= job::kLastScannedChannel; ++c) {
       job::RoomCombineRecord& r = table_.records[static_cast<std::size_t>(c)];
-      if (r.*field == number) r = {0, 0, 0, kDeleted};
+      if (r.*field == number) r = {0, 0, 0, job::kNotListedUnsigned};
     }
   });
 }

@@ -12,7 +12,7 @@ namespace {
 template <typename Matches, typename Line>
 int rebuild(job::RoomCombineTable& table, ui::ListBox& list, int last, Matches matches, Line line) {
   std::vector<std::string> lines;
-  for (int c = 0; c <= kLastChannel; ++c) {
+  for (int c = 0; c <= job::kLastChannel; ++c) {
     job::RoomCombineRecord& r = table.records[static_cast<std::size_t>(c)];
     r.CombineListLine = 0;
     if (c > last || !matches(r)) continue;
@@ -29,24 +29,24 @@ bool inUse(const job::RoomCombineRecord& r) { return r.CombineChannel != 0; }
 }  // namespace
 
 void RebuildAllView(job::RoomCombineTable& table, ui::ListBox& list) {
-  rebuild(table, list, kLastChannel, inUse, allLine);
+  rebuild(table, list, job::kLastChannel, inUse, allLine);
 }
 
 int RebuildRoomView(job::RoomCombineTable& table, ui::ListBox& list, int room) {
   const auto inRoom = [room](const job::RoomCombineRecord& r) { return r.CombineRoom == room; };
-  return rebuild(table, list, kLastFilteredChannel, inRoom, roomLine);
+  return rebuild(table, list, job::kLastScannedChannel, inRoom, roomLine);
 }
 
 int RebuildGroupView(job::RoomCombineTable& table, ui::ListBox& list, int group) {
   const auto inGroup = [group](const job::RoomCombineRecord& r) { return r.CombineGroup == group; };
-  return rebuild(table, list, kLastFilteredChannel, inGroup, groupLine);
+  return rebuild(table, list, job::kLastScannedChannel, inGroup, groupLine);
 }
 
 void AllView::rebuild(job::RoomCombineTable& table, ui::ListBox& list) {
   if (renumber(table, list)) return;
   RebuildAllView(table, list);
   listed_.clear();
-  for (int c = 0; c <= kLastChannel; ++c) {
+  for (int c = 0; c <= job::kLastChannel; ++c) {
     const job::RoomCombineRecord& r = table.records[static_cast<std::size_t>(c)];
     if (inUse(r)) listed_.push_back(entryOf(r));
   }
@@ -57,7 +57,7 @@ void AllView::rebuild(job::RoomCombineTable& table, ui::ListBox& list) {
 bool AllView::renumber(job::RoomCombineTable& table, const ui::ListBox& list) const {
   if (!known_ || list.count() != static_cast<int>(listed_.size())) return false;
   std::size_t line = 0;
-  for (int c = 0; c <= kLastChannel; ++c) {
+  for (int c = 0; c <= job::kLastChannel; ++c) {
     job::RoomCombineRecord& r = table.records[static_cast<std::size_t>(c)];
     r.CombineListLine = 0;
     if (!inUse(r)) continue;

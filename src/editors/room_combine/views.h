@@ -8,11 +8,6 @@
 
 namespace pellam::editors::room_combine {
 
-inline constexpr int kLastChannel = 2048;
-// The filtered views and the room and group deletes have always stopped here, so channel 2048
-// never shows in them and survives them.
-inline constexpr int kLastFilteredChannel = 2047;
-
 // The "all" view: every record in use, channels 0..2048, each record numbering its line from 1.
 void RebuildAllView(job::RoomCombineTable& table, ui::ListBox& list);
 // One room's or one group's records, channels 0..2047; each returns how many lines it listed.

@@ -1,5 +1,7 @@
 #include "editors/room_link/room_link_page.h"
 
+#include "job/runtime_error.h"
+
 #include <cstddef>
 #include <stdexcept>
 
@@ -20,7 +22,6 @@ job::RoomLinkRecord& recordOf(job::RoomLinkTable& table, int input) {
   return table.records[static_cast<std::size_t>(input - 1)];
 }
 
-std::int16_t narrow(int value) { return static_cast<std::int16_t>(value); }
 }  // namespace
 
 std::int16_t StoreRoomLink(job::RoomLinkTable& table, int input, int firstRoom, int secondRoom) {
@@ -30,9 +31,9 @@ std::int16_t StoreRoomLink(job::RoomLinkTable& table, int input, int firstRoom, 
   // Input 0 is refused above while an empty record is left; once all are taken it has no record either.
   if (input < 1 || input > kRecords) return kInputAlreadyLinked;
   job::RoomLinkRecord& r = recordOf(table, input);
-  r.LinkInput = narrow(input);
-  r.FirstRoom = narrow(firstRoom);
-  r.SecondRoom = narrow(secondRoom);
+  r.LinkInput = job::narrow(input);
+  r.FirstRoom = job::narrow(firstRoom);
+  r.SecondRoom = job::narrow(secondRoom);
   return kLinkStored;
 }
 
@@ -56,7 +57,7 @@ RoomLinkPage::RoomLinkPage(ui::UserForm1& form, job::RoomLinkTable& table, ui::D
   form_.ComboBox30.onClick = [this] {
     const int input = form_.ComboBox30.listIndex();
     // Kept when the list goes back to the blank item: group C's add links the last input chosen.
-    if (input >= 1) table_.LinkInputGroupC = narrow(input);
+    if (input >= 1) table_.LinkInputGroupC = job::narrow(input);
     chooseInput(c_, input);
   };
   form_.ListBox4.onClick = [this] { ui::trap(dialogs_, "Error LnkScr", [this] { clickLine(b_); }); };
@@ -65,8 +66,8 @@ RoomLinkPage::RoomLinkPage(ui::UserForm1& form, job::RoomLinkTable& table, ui::D
 }
 
 void RoomLinkPage::attachRoomLists(Group& g) {
-  g.firstRoom.onClick = [this, &g] { table_.LinkFirstRoom = narrow(g.firstRoom.listIndex()); };
-  g.secondRoom.onClick = [this, &g] { table_.LinkSecondRoom = narrow(g.secondRoom.listIndex()); };
+  g.firstRoom.onClick = [this, &g] { table_.LinkFirstRoom = job::narrow(g.firstRoom.listIndex()); };
+  g.secondRoom.onClick = [this, &g] { table_.LinkSecondRoom = job::narrow(g.secondRoom.listIndex()); };
 }
 
 // Nothing of this editor lives on the form alone: the inputs of groups A and B are their lists'
@@ -89,7 +90,7 @@ bool RoomLinkPage::equalRoomsRefused() {
 
 void RoomLinkPage::appendLine(Group& g, job::RoomLinkRecord& r) {
   g.list.addItem(g.addedLine(r));
-  r.ListLine = narrow(g.list.count() - 1);
+  r.ListLine = job::narrow(g.list.count() - 1);
   g.list.setListIndex(r.ListLine);
 }
 
@@ -148,7 +149,7 @@ void RoomLinkPage::relist(ui::ListBox& list, LineFormat line) {
     r.ListLine = job::kNotListed;
     if (r.LinkInput > 0) {
       list.addItem(line(r));
-      r.ListLine = narrow(list.count() - 1);
+      r.ListLine = job::narrow(list.count() - 1);
     }
   }
 }

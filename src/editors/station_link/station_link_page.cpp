@@ -1,5 +1,7 @@
 #include "editors/station_link/station_link_page.h"
 
+#include "job/runtime_error.h"
+
 #include <array>
 #include <cstddef>
 #include <string>
@@ -16,7 +18,6 @@ constexpr int kSlots = 129;
 // The type code of each item of the station-type list; the blank item has none.
 constexpr std::array<std::int16_t, 6> kTypeCodes{0, 10, 9, 13, 14, 7};
 
-std::int16_t narrow(int value) { return static_cast<std::int16_t>(value); }
 }  // namespace
 
 StationLinkPage::StationLinkPage(ui::UserForm1& form, job::StationLinkTable& table, ui::Dialogs& dialogs)
@@ -24,7 +25,7 @@ StationLinkPage::StationLinkPage(ui::UserForm1& form, job::StationLinkTable& tab
   form_.ComboBox34.onClick = [this] { chooseType(); };
   form_.ComboBox35.onClick = [this] { chooseNetId(); };
   form_.ComboBox33.onClick = [this] {
-    if (RoomGate) SelectedRoom = narrow(form_.ComboBox33.listIndex());
+    if (RoomGate) SelectedRoom = job::narrow(form_.ComboBox33.listIndex());
   };
   form_.ListBox3.onClick = [this] { clickLine(); };
   form_.CommandButton8.onClick = [this] { add(); };
@@ -53,7 +54,7 @@ void StationLinkPage::chooseType() {
 }
 
 void StationLinkPage::chooseNetId() {
-  SelectedNetId = narrow(form_.ComboBox35.listIndex());
+  SelectedNetId = job::narrow(form_.ComboBox35.listIndex());
   if (RoomGate) return;
   const job::StationLinkRecord* r = linkOf(SelectedNetId);
   selectLine(r ? r->LinkListPosition : -1);
@@ -95,7 +96,7 @@ void StationLinkPage::add() {
   } else {
     job::StationLinkRecord& r = table_.records[static_cast<std::size_t>(SelectedNetId)];
     form_.ListBox3.addItem(linkLine(r, form_.ComboBox34.text()));
-    r.LinkListPosition = narrow(form_.ListBox3.count() - 1);
+    r.LinkListPosition = job::narrow(form_.ListBox3.count() - 1);
   }
   RoomGate = true;
 }
@@ -131,7 +132,7 @@ void StationLinkPage::relist(int lastSlot, bool ownTypes) {
     } else {
       list.addItem(linkLine(r, form_.ComboBox34.text()));
     }
-    r.LinkListPosition = narrow(list.count() - 1);
+    r.LinkListPosition = job::narrow(list.count() - 1);
   }
 }
 

@@ -1,5 +1,7 @@
 #include "editors/station_personality/station_personality_page.h"
 
+#include "job/runtime_error.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -14,7 +16,6 @@ constexpr int kSearchedSlots = 128;
 constexpr std::int16_t kT3100Series = 10;
 constexpr std::int16_t kT6600Series = 9;
 
-std::int16_t narrow(int value) { return static_cast<std::int16_t>(value); }
 
 void showIndex(ui::ListControl& list, int index) {
   if (index >= 0 && index < list.count()) list.setListIndex(index);
@@ -51,14 +52,14 @@ void StationPersonalityPage::add() {
     dialogs_.msgBox("Duplicate NetId Entry", ui::Buttons::OK);
     return;
   }
-  r.PersNetIdPlusOne = narrow(slot + 1);
-  r.PersNumber = narrow(form_.ComboBox18.listIndex());
+  r.PersNetIdPlusOne = job::narrow(slot + 1);
+  r.PersNumber = job::narrow(form_.ComboBox18.listIndex());
   const int series = form_.ComboBox17.listIndex();
   if (series == 0) r.PersSeries = kT3100Series;
   if (series == 1) r.PersSeries = kT6600Series;
-  r.PersRoom = narrow(form_.ComboBox43.listIndex());
+  r.PersRoom = job::narrow(form_.ComboBox43.listIndex());
   form_.ListBox7.addItem(personalityLine(form_.ComboBox17.text(), r));
-  r.PersListPosition = narrow(form_.ListBox7.count() - 1);
+  r.PersListPosition = job::narrow(form_.ListBox7.count() - 1);
 }
 
 void StationPersonalityPage::remove() {
@@ -83,7 +84,7 @@ void StationPersonalityPage::relist() {
     job::StationPersonalityRecord& r = table_.records[static_cast<std::size_t>(s)];
     if (r.PersNetIdPlusOne <= 0) continue;
     list.addItem(personalityLine(form_.ComboBox17.text(), r));
-    r.PersListPosition = narrow(list.count() - 1);
+    r.PersListPosition = job::narrow(list.count() - 1);
   }
 }
 

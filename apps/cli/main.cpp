@@ -43,13 +43,11 @@ constexpr std::string_view kUsage =
 int runScript(const std::string& path) {
   namespace script = pellam::component::script;
   if (path == "-") return script::runFormScript(std::cin, std::cout, std::cerr);
-  std::error_code ec;
-  const auto fsPath = pellam::files::fsPath(path);
-  if (std::filesystem::is_directory(fsPath, ec)) {
-    std::cerr << "pellam: " << path << " is a folder, not a script\n";
+  if (const auto refusal = script::scriptFileRefusal(path)) {
+    std::cerr << "pellam: " << path << ' ' << *refusal << "\n";
     return kUsageError;
   }
-  std::ifstream in(fsPath, std::ios::binary);
+  std::ifstream in(pellam::files::fsPath(path), std::ios::binary);
   if (!in) {
     std::cerr << "pellam: cannot read " << path << "\n";
     return kUsageError;

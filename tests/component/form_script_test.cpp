@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 #include <sstream>
+#include <streambuf>
 
 #include "component/script/form_script.h"
 #include "component/script/script_tokens.h"
@@ -53,6 +56,15 @@ TEST(FormScript, RefusesMistakesByNameWithTheLine) {
       {"call Show_Hide_Pellam_Form \"yes\"", "error: line 2: bad argument \"yes\" (give True or False)\n"},
       {"call Return_Dir_Path somewhere", "error: line 2: bad argument somewhere (give a quoted string, a number, True or False)\n"},
       {"select MultiPage1 3", "error: line 2: page 3 of MultiPage1 is not showing\n"},
+      // Numbers past an int, and sums of them, are refused rather than wrapped.
+      {"bytes 1 2147483647", "error: line 2: bytes 1..2147483647 lie outside the image (0..34001)\n"},
+      {"bytes 2147483647", "error: line 2: bytes 2147483647..2147483647 lie outside the image (0..34001)\n"},
+      {"select ComboBox1 99999999999", "error: line 2: bad index 99999999999\n"},
+      {"clock \"2026-01-01 +1:00:00\"", "error: line 2: bad time \"2026-01-01 +1:00:00\" (give \"YYYY-MM-DD HH:MM:SS\")\n"},
+      // A script's control characters never reach the terminal raw.
+      {"frob\x1b[2Jnicate", "error: line 2: unknown command frob\\x1b[2Jnicate\n"},
+      {"answer \"\x1b]0;x\x07\"", "error: line 2: bad answer \\x1b]0;x\\x07 (Yes, No, OK or Cancel)\n"},
+      {"clock \"\x7f\r\"", "error: line 2: bad time \"\\x7f\\r\" (give \"YYYY-MM-DD HH:MM:SS\")\n"},
   };
   for (const auto& [line, error] : cases) {
     const ScriptRun r = run(kStart + line + "\nshow UserForm1\n");
@@ -82,6 +94,46 @@ TEST(FormScript, QuestionsNeedQueuedAnswersThatFit) {
 
   r = run(kStart + "call Return_FileName_Path \"*.zpd\"\n");
   EXPECT_EQ(r.err, "error: line 2: no path queued for the file dialog\n");
+}
+
+// A stream without line ends, as /dev/zero gives on standard input.
+class EndlessZeros : public std::streambuf {
+  int_type underflow() override {
+    setg(zeros_, zeros_, zeros_ + sizeof zeros_);
+    return 0;
+  }
+  char zeros_[4096] = {};
+};
+
+TEST(FormScript, ReadsLinesUpToTheLimitOnly) {
+  const std::string limit = std::to_string(kMaxLineLength);
+  const std::string longest = "#" + std::string(kMaxLineLength - 1, 'x') + "\n";
+  ScriptRun r = run(kStart + longest + "show UserForm1\n");
+  EXPECT_EQ(r.status, 0) << r.err;
+  EXPECT_EQ(r.out, "UserForm1 loaded=1 visible=0\n");
+
+  r = run(kStart + "#" + longest + "show UserForm1\n");
+  EXPECT_EQ(r.err, "error: line 2: the line is longer than " + limit + " bytes\n");
+  EXPECT_EQ(r.out, "");
+
+  EndlessZeros zeros;
+  std::istream endless(&zeros);
+  std::ostringstream out, err;
+  EXPECT_EQ(runFormScript(endless, out, err), kScriptFailed);
+  EXPECT_EQ(err.str(), "error: line 1: the line is longer than " + limit + " bytes\n");
+}
+
+TEST(FormScript, RunsRegularFilesOnly) {
+  testing::TempFolder tmp;
+  ASSERT_EQ(mkfifo(tmp.file("pipe").c_str(), 0600), 0);
+  const std::pair<std::string, std::optional<std::string>> cases[] = {
+      {tmp.write("job.pellam", kStart), std::nullopt},
+      {tmp.path().string(), "is a folder, not a script"},
+      {tmp.file("pipe"), "is a pipe, not a script"},
+      {"/dev/zero", "is a device, not a script"},
+      {tmp.file("missing.pellam"), "does not exist"},
+  };
+  for (const auto& [path, refusal] : cases) EXPECT_EQ(scriptFileRefusal(path), refusal) << path;
 }
 
 }  // namespace

@@ -1,8 +1,8 @@
 #include "component/script/form_script.h"
 
 #include <charconv>
-#include <cstdio>
 #include <exception>
+#include <filesystem>
 #include <functional>
 #include <istream>
 #include <map>
@@ -16,6 +16,7 @@
 #include "component/script/script_platform.h"
 #include "component/script/script_tokens.h"
 #include "component/session.h"
+#include "files/job_paths.h"
 
 namespace pellam::component::script {
 
@@ -50,7 +51,7 @@ const char* flag(bool on) { return on ? "1" : "0"; }
 
 class Runner {
  public:
-  Runner(std::ostream& out) : out_(out), platform_(out), session_(platform_, platform_, platform_), class1_(session_) {}
+  explicit Runner(std::ostream& out) : out_(out), platform_(out), session_(platform_, platform_, platform_), class1_(session_) {}
 
   void run(const Args& tokens, int line) {
     if (tokens[0].quoted) throw ScriptError{"a line starts with a command, not a string"};
@@ -69,6 +70,7 @@ class Runner {
   }
 
   const ScriptPlatform& platform() const { return platform_; }
+  Session& session() { return session_; }
 
  private:
   static void arity(const Args& args, std::size_t count, const char* usage) {
@@ -196,13 +198,21 @@ class Runner {
 
   void clock(const Args& args) {
     arity(args, 1, "clock \"YYYY-MM-DD HH:MM:SS\"");
+    const std::string& text = args[0].text;
     ui::DateTime t{};
-    char tail = 0;
-    const bool parsed = args[0].quoted && std::sscanf(args[0].text.c_str(), "%4d-%2d-%2d %2d:%2d:%2d%c", &t.year,
-                                                      &t.month, &t.day, &t.hour, &t.minute, &t.second, &tail) == 6;
+    // Each field has a fixed place and width, so no sign, blank or overlong number slips in.
+    const std::pair<int*, std::size_t> fields[] = {{&t.year, 0},  {&t.month, 5},   {&t.day, 8},
+                                                   {&t.hour, 11}, {&t.minute, 14}, {&t.second, 17}};
+    bool parsed = args[0].quoted && text.size() == 19 && text[4] == '-' && text[7] == '-' && text[10] == ' ' &&
+                  text[13] == ':' && text[16] == ':';
+    for (const auto& [field, at] : fields) {
+      const std::size_t width = at == 0 ? 4 : 2;
+      parsed = parsed && text.find_first_not_of("0123456789", at) >= at + width &&
+               std::from_chars(text.data() + at, text.data() + at + width, *field).ec == std::errc();
+    }
     if (!parsed || t.month < 1 || t.month > 12 || t.day < 1 || t.day > 31 || t.hour > 23 || t.minute > 59 ||
-        t.second > 59 || t.hour < 0 || t.minute < 0 || t.second < 0) {
-      throw ScriptError{"bad time " + quote(args[0].text) + " (give \"YYYY-MM-DD HH:MM:SS\")"};
+        t.second > 59) {
+      throw ScriptError{"bad time " + quote(text) + " (give \"YYYY-MM-DD HH:MM:SS\")"};
     }
     platform_.fixClock(t);
   }
@@ -253,8 +263,9 @@ class Runner {
     if (args.size() == 2 && (args[1].quoted || !parseInt(args[1].text, count) || count < 1)) {
       throw ScriptError{"bad count " + args[1].text};
     }
-    if (offset < 0 || offset + count > image::map::kImageSize) {
-      throw ScriptError{"bytes " + std::to_string(offset) + ".." + std::to_string(offset + count - 1) +
+    // Compared without adding, as offset + count may not fit an int.
+    if (offset < 0 || offset >= image::map::kImageSize || count > image::map::kImageSize - offset) {
+      throw ScriptError{"bytes " + std::to_string(offset) + ".." + std::to_string(offset + (count - 1LL)) +
                         " lie outside the image (0.." + std::to_string(image::map::kImageSize - 1) + ")"};
     }
     out_ << "bytes " << offset << ':';
@@ -268,16 +279,41 @@ class Runner {
   Class1 class1_;
 };
 
+enum class LineRead { Line, End, TooLong };
+
+// getline with a bound: reading stops at kMaxLineLength bytes without a line end.
+LineRead readLine(std::istream& in, std::string& text) {
+  text.clear();
+  std::streambuf* buffer = in.rdbuf();
+  if (!in.good() || buffer == nullptr) return LineRead::End;
+  using Traits = std::istream::traits_type;
+  for (;;) {
+    const auto c = buffer->sbumpc();
+    if (Traits::eq_int_type(c, Traits::eof())) {
+      in.setstate(std::ios::eofbit);
+      return text.empty() ? LineRead::End : LineRead::Line;
+    }
+    if (Traits::to_char_type(c) == '\n') return LineRead::Line;
+    if (text.size() == kMaxLineLength) return LineRead::TooLong;
+    text += Traits::to_char_type(c);
+  }
+}
+
 }  // namespace
 
-int runFormScript(std::istream& in, std::ostream& out, std::ostream& err) {
+int runFormScript(std::istream& in, std::ostream& out, std::ostream& err,
+                  const std::function<void(Session&)>& prepare) {
   // The session is large; keep it off the stack.
   auto runner = std::make_unique<Runner>(out);
+  if (prepare) prepare(runner->session());
   std::string text;
   int line = 0;
   try {
-    while (std::getline(in, text)) {
+    for (LineRead read; (read = readLine(in, text)) != LineRead::End;) {
       ++line;
+      if (read == LineRead::TooLong) {
+        throw ScriptError{"the line is longer than " + std::to_string(kMaxLineLength) + " bytes"};
+      }
       const std::vector<Token> tokens = tokenize(text);
       if (tokens.empty()) continue;
       try {
@@ -292,10 +328,25 @@ int runFormScript(std::istream& in, std::ostream& out, std::ostream& err) {
     }
   } catch (const ScriptError& e) {
     out.flush();
-    err << "error: line " << line << ": " << e.why << '\n';
+    err << "error: line " << line << ": " << printable(e.why) << '\n';
     return kScriptFailed;
   }
   return 0;
+}
+
+std::optional<std::string> scriptFileRefusal(const std::string& path) {
+  namespace fs = std::filesystem;
+  std::error_code ec;
+  switch (fs::status(files::fsPath(path), ec).type()) {
+    case fs::file_type::regular: return std::nullopt;
+    case fs::file_type::directory: return "is a folder, not a script";
+    case fs::file_type::fifo: return "is a pipe, not a script";
+    case fs::file_type::socket: return "is a socket, not a script";
+    case fs::file_type::block:
+    case fs::file_type::character: return "is a device, not a script";
+    case fs::file_type::not_found: return "does not exist";
+    default: return "cannot be read";
+  }
 }
 
 }  // namespace pellam::component::script

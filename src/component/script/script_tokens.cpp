@@ -54,19 +54,38 @@ std::vector<Token> tokenize(std::string_view line) {
   return tokens;
 }
 
+namespace {
+void appendPrintable(std::string& out, char c) {
+  switch (c) {
+    case '\r': out += "\\r"; return;
+    case '\n': out += "\\n"; return;
+    case '\t': out += "\\t"; return;
+    default: break;
+  }
+  const auto byte = static_cast<unsigned char>(c);
+  if (byte >= 0x20 && byte != 0x7f) {
+    out += c;
+    return;
+  }
+  char hex[5];
+  std::snprintf(hex, sizeof hex, "\\x%02x", byte);
+  out += hex;
+}
+}  // namespace
+
 std::string quote(std::string_view text) {
   std::string out = "\"";
   for (const char c : text) {
-    switch (c) {
-      case '"': out += "\\\""; break;
-      case '\\': out += "\\\\"; break;
-      case '\r': out += "\\r"; break;
-      case '\n': out += "\\n"; break;
-      case '\t': out += "\\t"; break;
-      default: out += c;
-    }
+    if (c == '"' || c == '\\') out += '\\';
+    appendPrintable(out, c);
   }
   return out + '"';
+}
+
+std::string printable(std::string_view text) {
+  std::string out;
+  for (const char c : text) appendPrintable(out, c);
+  return out;
 }
 
 }  // namespace pellam::component::script

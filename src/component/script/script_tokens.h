@@ -18,4 +18,8 @@ std::vector<Token> tokenize(std::string_view line);
 // The inverse, for printing texts: a double-quoted string with the same escapes.
 std::string quote(std::string_view text);
 
+// The text with its control characters written as the strings' escapes, or as \xHH where
+// they have none, so that a script's bytes never reach a terminal raw.
+std::string printable(std::string_view text);
+
 }  // namespace pellam::component::script

@@ -9,13 +9,12 @@ namespace {
 
 class CommandView final : public ControlView {
  public:
-  CommandView(ui::CommandButton& control, QWidget* parent, ActionDone done)
+  CommandView(ui::CommandButton& control, QWidget* parent, PersonAction act)
       : control_(control), button_(new QPushButton(parent)) {
     // Return presses the button that has the focus, as Space does.
     button_->setAutoDefault(true);
-    QObject::connect(button_, &QPushButton::clicked, button_, [this, done] {
-      control_.click();
-      done();
+    QObject::connect(button_, &QPushButton::clicked, button_, [this, act] {
+      act([&] { control_.click(); });
     });
   }
   QWidget* widget() const override { return button_; }
@@ -31,13 +30,12 @@ class CommandView final : public ControlView {
 
 class OptionView final : public ControlView {
  public:
-  OptionView(ui::OptionButton& control, QWidget* parent, ActionDone done)
+  OptionView(ui::OptionButton& control, QWidget* parent, PersonAction act)
       : control_(control), button_(new QRadioButton(parent)) {
     // The form decides which button of a frame is on; Qt's own grouping would fight it.
     button_->setAutoExclusive(false);
-    QObject::connect(button_, &QRadioButton::clicked, button_, [this, done] {
-      control_.choose();
-      done();
+    QObject::connect(button_, &QRadioButton::clicked, button_, [this, act] {
+      act([&] { control_.choose(); });
     });
   }
   QWidget* widget() const override { return button_; }
@@ -55,10 +53,10 @@ class OptionView final : public ControlView {
 
 }  // namespace
 
-std::unique_ptr<ControlView> makeButtonView(ui::CaptionedControl& control, QWidget* parent, ActionDone done) {
+std::unique_ptr<ControlView> makeButtonView(ui::CaptionedControl& control, QWidget* parent, PersonAction act) {
   if (control.kind() == ui::Kind::OptionButton)
-    return std::make_unique<OptionView>(static_cast<ui::OptionButton&>(control), parent, std::move(done));
-  return std::make_unique<CommandView>(static_cast<ui::CommandButton&>(control), parent, std::move(done));
+    return std::make_unique<OptionView>(static_cast<ui::OptionButton&>(control), parent, std::move(act));
+  return std::make_unique<CommandView>(static_cast<ui::CommandButton&>(control), parent, std::move(act));
 }
 
 }  // namespace pellam::qt

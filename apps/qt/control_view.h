@@ -24,14 +24,15 @@ class ControlView {
 // The control's Visible and Enabled onto its widget: every view's redraw ends with them.
 void showState(QWidget& widget, const ui::Control& control);
 
-// Told after every action a person took, once the control's handler has run.
-using ActionDone = std::function<void()>;
+// Runs what a person did to a control: no error of the core ends the program, and the window
+// learns that the action is over.
+using PersonAction = std::function<void(const std::function<void()>& action)>;
 
-std::unique_ptr<ControlView> makeListView(ui::ListControl& control, QWidget* parent, ActionDone done);
-std::unique_ptr<ControlView> makeTextView(ui::TextBox& control, QWidget* parent, ActionDone done);
+std::unique_ptr<ControlView> makeListView(ui::ListControl& control, QWidget* parent, PersonAction act);
+std::unique_ptr<ControlView> makeTextView(ui::TextBox& control, QWidget* parent, PersonAction act);
 std::unique_ptr<ControlView> makeCaptionView(ui::CaptionedControl& control, QWidget* parent);
-std::unique_ptr<ControlView> makeButtonView(ui::CaptionedControl& control, QWidget* parent, ActionDone done);
-std::unique_ptr<ControlView> makeMultiPageView(ui::MultiPage& control, QWidget* parent, ActionDone done);
+std::unique_ptr<ControlView> makeButtonView(ui::CaptionedControl& control, QWidget* parent, PersonAction act);
+std::unique_ptr<ControlView> makeMultiPageView(ui::MultiPage& control, QWidget* parent, PersonAction act);
 std::unique_ptr<ControlView> makePageView(ui::Page& control, QWidget* tabs);
 
 // The longest text a combo box is sized for; scanning thousands of items for it is too slow.

@@ -12,17 +12,17 @@ namespace pellam::qt {
 
 namespace {
 
-std::unique_ptr<ControlView> makeView(ui::Control& c, QWidget* parent, const ActionDone& done) {
+std::unique_ptr<ControlView> makeView(ui::Control& c, QWidget* parent, const PersonAction& act) {
   switch (c.kind()) {
-    case ui::Kind::MultiPage: return makeMultiPageView(static_cast<ui::MultiPage&>(c), parent, done);
+    case ui::Kind::MultiPage: return makeMultiPageView(static_cast<ui::MultiPage&>(c), parent, act);
     case ui::Kind::Page: return makePageView(static_cast<ui::Page&>(c), parent);
     case ui::Kind::Frame:
     case ui::Kind::Label: return makeCaptionView(static_cast<ui::CaptionedControl&>(c), parent);
-    case ui::Kind::TextBox: return makeTextView(static_cast<ui::TextBox&>(c), parent, done);
+    case ui::Kind::TextBox: return makeTextView(static_cast<ui::TextBox&>(c), parent, act);
     case ui::Kind::ComboBox:
-    case ui::Kind::ListBox: return makeListView(static_cast<ui::ListControl&>(c), parent, done);
+    case ui::Kind::ListBox: return makeListView(static_cast<ui::ListControl&>(c), parent, act);
     case ui::Kind::OptionButton:
-    case ui::Kind::CommandButton: return makeButtonView(static_cast<ui::CaptionedControl&>(c), parent, done);
+    case ui::Kind::CommandButton: return makeButtonView(static_cast<ui::CaptionedControl&>(c), parent, act);
   }
   return nullptr;
 }
@@ -61,7 +61,7 @@ const ui::Control* FormView::pageOf(const ui::Control& control) const {
 }
 
 ControlView& FormView::add(ui::Control& control, QWidget* parent) {
-  auto view = makeView(control, parent, [this] { actionDone(); });
+  auto view = makeView(control, parent, [this](const std::function<void()>& action) { personAction(action); });
   const ui::ControlSpec& spec = control.spec();
   if (spec.kind != ui::Kind::Page) view->widget()->setGeometry(spec.left, spec.top, spec.width, spec.height);
   byControl_[&control] = view.get();
@@ -154,7 +154,13 @@ void FormView::redrawAll() {
   multiPage_->redraw();
 }
 
-void FormView::actionDone() {
+// A Qt slot must never let an error out: what escapes the core goes to the form's report.
+void FormView::personAction(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const std::exception& e) {
+    form_.reportError(e.what());
+  }
   flush();
   if (onPersonAction) onPersonAction();
 }

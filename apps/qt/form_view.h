@@ -28,7 +28,7 @@ class FormView final : public QWidget {
 
  private:
   void changed(const ui::Control* control);
-  void actionDone();
+  void personAction(const std::function<void()>& action);
   bool eventFilter(QObject* watched, QEvent* event) override;
   const ui::Control* pageOf(const ui::Control& control) const;
   ControlView& add(ui::Control& control, QWidget* parent);

@@ -18,7 +18,7 @@ QStringList toQt(const std::vector<std::string>& items) {
 
 class ComboView final : public ControlView {
  public:
-  ComboView(ui::ListControl& control, QWidget* parent, ActionDone done)
+  ComboView(ui::ListControl& control, QWidget* parent, PersonAction act)
       : control_(control), box_(new QComboBox(parent)), model_(new QStringListModel(box_)) {
     // Lists of thousands of choices: plain strings fill far faster than the default item model.
     box_->setModel(model_);
@@ -26,9 +26,8 @@ class ComboView final : public ControlView {
     box_->setMinimumContentsLength(kComboContentsLength);
     box_->setMaxVisibleItems(20);
     // activated() comes from a person only, including choosing the item already shown.
-    QObject::connect(box_, &QComboBox::activated, box_, [this, done](int index) {
-      control_.select(index);
-      done();
+    QObject::connect(box_, &QComboBox::activated, box_, [this, act](int index) {
+      act([&] { control_.select(index); });
     });
   }
   QWidget* widget() const override { return box_; }
@@ -51,14 +50,13 @@ class ComboView final : public ControlView {
 
 class ListBoxView final : public ControlView {
  public:
-  ListBoxView(ui::ListControl& control, QWidget* parent, ActionDone done)
+  ListBoxView(ui::ListControl& control, QWidget* parent, PersonAction act)
       : control_(control), list_(new QListWidget(parent)) {
     list_->setUniformItemSizes(true);
     // A click or the arrow keys choose a line, as on the form.
-    QObject::connect(list_, &QListWidget::currentRowChanged, list_, [this, done](int row) {
+    QObject::connect(list_, &QListWidget::currentRowChanged, list_, [this, act](int row) {
       if (row < 0) return;
-      control_.select(row);
-      done();
+      act([&] { control_.select(row); });
     });
   }
   QWidget* widget() const override { return list_; }
@@ -82,9 +80,9 @@ class ListBoxView final : public ControlView {
 
 }  // namespace
 
-std::unique_ptr<ControlView> makeListView(ui::ListControl& control, QWidget* parent, ActionDone done) {
-  if (control.kind() == ui::Kind::ComboBox) return std::make_unique<ComboView>(control, parent, std::move(done));
-  return std::make_unique<ListBoxView>(control, parent, std::move(done));
+std::unique_ptr<ControlView> makeListView(ui::ListControl& control, QWidget* parent, PersonAction act) {
+  if (control.kind() == ui::Kind::ComboBox) return std::make_unique<ComboView>(control, parent, std::move(act));
+  return std::make_unique<ListBoxView>(control, parent, std::move(act));
 }
 
 }  // namespace pellam::qt

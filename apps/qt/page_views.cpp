@@ -8,13 +8,15 @@ namespace {
 
 class MultiPageView final : public ControlView {
  public:
-  MultiPageView(ui::MultiPage& control, QWidget* parent, ActionDone done)
+  MultiPageView(ui::MultiPage& control, QWidget* parent, PersonAction act)
       : control_(control), tabs_(new QTabWidget(parent)) {
     tabs_->setUsesScrollButtons(false);
-    QObject::connect(tabs_, &QTabWidget::currentChanged, tabs_, [this, done](int index) {
+    // Keys and the wheel step onto hidden tabs as well: the step goes on to the next page shown.
+    QObject::connect(tabs_, &QTabWidget::currentChanged, tabs_, [this, act](int index) {
       if (index < 0 || index == control_.value()) return;
-      control_.setValue(index);
-      done();
+      const int target = control_.visiblePageFrom(index, index > control_.value() ? 1 : -1);
+      if (target >= 0) act([&] { control_.setValue(target); });
+      redraw();
     });
   }
   QWidget* widget() const override { return tabs_; }
@@ -50,8 +52,8 @@ class PageView final : public ControlView {
 
 }  // namespace
 
-std::unique_ptr<ControlView> makeMultiPageView(ui::MultiPage& control, QWidget* parent, ActionDone done) {
-  return std::make_unique<MultiPageView>(control, parent, std::move(done));
+std::unique_ptr<ControlView> makeMultiPageView(ui::MultiPage& control, QWidget* parent, PersonAction act) {
+  return std::make_unique<MultiPageView>(control, parent, std::move(act));
 }
 
 std::unique_ptr<ControlView> makePageView(ui::Page& control, QWidget* tabs) {

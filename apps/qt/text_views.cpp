@@ -17,10 +17,9 @@ bool multiLine(const ui::Control& control) { return ui::isMultiLine(control.spec
 
 class LineView final : public ControlView {
  public:
-  LineView(ui::TextBox& control, QWidget* parent, ActionDone done) : control_(control), edit_(new QLineEdit(parent)) {
-    QObject::connect(edit_, &QLineEdit::textEdited, edit_, [this, done](const QString& text) {
-      control_.setText(text.toStdString());
-      done();
+  LineView(ui::TextBox& control, QWidget* parent, PersonAction act) : control_(control), edit_(new QLineEdit(parent)) {
+    QObject::connect(edit_, &QLineEdit::textEdited, edit_, [this, act](const QString& text) {
+      act([&] { control_.setText(text.toStdString()); });
     });
   }
   QWidget* widget() const override { return edit_; }
@@ -38,12 +37,11 @@ class LineView final : public ControlView {
 
 class BlockView final : public ControlView {
  public:
-  BlockView(ui::TextBox& control, QWidget* parent, ActionDone done)
+  BlockView(ui::TextBox& control, QWidget* parent, PersonAction act)
       : control_(control), edit_(new QPlainTextEdit(parent)) {
     edit_->setTabChangesFocus(true);
-    QObject::connect(edit_, &QPlainTextEdit::textChanged, edit_, [this, done] {
-      control_.setText(fromDisplay(edit_->toPlainText()));
-      done();
+    QObject::connect(edit_, &QPlainTextEdit::textChanged, edit_, [this, act] {
+      act([&] { control_.setText(fromDisplay(edit_->toPlainText())); });
     });
   }
   QWidget* widget() const override { return edit_; }
@@ -92,9 +90,9 @@ class FrameView final : public ControlView {
 
 }  // namespace
 
-std::unique_ptr<ControlView> makeTextView(ui::TextBox& control, QWidget* parent, ActionDone done) {
-  if (multiLine(control)) return std::make_unique<BlockView>(control, parent, std::move(done));
-  return std::make_unique<LineView>(control, parent, std::move(done));
+std::unique_ptr<ControlView> makeTextView(ui::TextBox& control, QWidget* parent, PersonAction act) {
+  if (multiLine(control)) return std::make_unique<BlockView>(control, parent, std::move(act));
+  return std::make_unique<LineView>(control, parent, std::move(act));
 }
 
 std::unique_ptr<ControlView> makeCaptionView(ui::CaptionedControl& control, QWidget* parent) {

@@ -26,6 +26,7 @@ Session::Session(ui::Dialogs& dialogs, ui::Shell& shell, ui::Clock& clock)
       filesPage(*this),
       uploadPage(*this) {
   navigation.setBoardPage(boardPage);
+  form.setErrorReport([this](const std::string& what) { platform_.msgBox("Unexpected Error: " + what, ui::Buttons::OK); });
 }
 
 bool Session::modified() const { return !job::sameContent(job, unmodified_); }

@@ -1,6 +1,6 @@
 #include "ui/controls.h"
 
-#include <stdexcept>
+#include "job/runtime_error.h"
 
 namespace pellam::ui {
 
@@ -54,7 +54,7 @@ void CaptionedControl::reset() {
 }
 
 void CommandButton::click() {
-  if (onClick) onClick();
+  run(onClick);
 }
 
 void OptionButton::setValue(bool value) {
@@ -68,7 +68,7 @@ void OptionButton::choose() {
     if (other != this) other->setValue(false);
   }
   setValue(true);
-  if (onClick) onClick();
+  run(onClick);
 }
 
 void OptionButton::reset() {
@@ -80,7 +80,7 @@ void TextBox::setText(std::string text) {
   if (text_ == text) return;
   text_ = std::move(text);
   notify();
-  if (onChange) onChange();
+  run(onChange);
 }
 
 void TextBox::reset() {
@@ -89,7 +89,7 @@ void TextBox::reset() {
 }
 
 const std::string& ListControl::item(int index) const {
-  if (index < 0 || index >= count()) throw std::out_of_range("Invalid property value");
+  if (index < 0 || index >= count()) throw job::RuntimeError(kInvalidPropertyValue);
   return items_[static_cast<std::size_t>(index)];
 }
 
@@ -119,7 +119,7 @@ void ListControl::refill(std::vector<std::string> items) {
 }
 
 void ListControl::checkIndex(int index) const {
-  if (index < -1 || index >= count()) throw std::out_of_range("Invalid property value");
+  if (index < -1 || index >= count()) throw job::RuntimeError(kInvalidPropertyValue);
 }
 
 void ListControl::setListIndex(int index) {
@@ -127,7 +127,7 @@ void ListControl::setListIndex(int index) {
   if (listIndex_ == index) return;
   listIndex_ = index;
   notify();
-  if (onClick) onClick();
+  run(onClick);
 }
 
 void ListControl::select(int index) {
@@ -136,7 +136,7 @@ void ListControl::select(int index) {
     listIndex_ = index;
     notify();
   }
-  if (onClick) onClick();
+  run(onClick);
 }
 
 void ListControl::reset() {
@@ -146,12 +146,21 @@ void ListControl::reset() {
 }
 
 void MultiPage::setValue(int pageIndex) {
-  if (pageIndex < 0 || pageIndex >= static_cast<int>(pages_.size())) throw std::out_of_range("Invalid property value");
-  if (!pages_[static_cast<std::size_t>(pageIndex)]->visible()) throw std::out_of_range("Page is not visible");
+  if (pageIndex < 0 || pageIndex >= static_cast<int>(pages_.size())) throw job::RuntimeError(kInvalidPropertyValue);
+  if (!pages_[static_cast<std::size_t>(pageIndex)]->visible()) throw job::RuntimeError(kPageNotVisible);
   if (value_ == pageIndex) return;
   value_ = pageIndex;
   notify();
-  if (onChange) onChange();
+  run(onChange);
+}
+
+int MultiPage::visiblePageFrom(int from, int step) const {
+  const int count = static_cast<int>(pages_.size());
+  for (int i = 0, at = from; i < count; ++i, at += step) {
+    at = ((at % count) + count) % count;
+    if (at != value_ && pages_[static_cast<std::size_t>(at)]->visible()) return at;
+  }
+  return -1;
 }
 
 void MultiPage::pageVisibilityChanged(const Page& page) {

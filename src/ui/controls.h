@@ -11,16 +11,22 @@ namespace pellam::ui {
 
 class Control;
 
-// Faces learn what to redraw from this one notification.
+using Handler = std::function<void()>;
+
+// Faces learn what to redraw from this one notification; every handler a control fires runs
+// through the sink, where an error that no trap caught ends.
 class ChangeSink {
  public:
   virtual void controlChanged(const Control& control) = 0;
+  virtual void runHandler(const Handler& handler) = 0;
 
  protected:
   ~ChangeSink() = default;
 };
 
-using Handler = std::function<void()>;
+// The run-time errors of setting a control as the form's controls raise them.
+inline constexpr const char* kInvalidPropertyValue = "Invalid property value";
+inline constexpr const char* kPageNotVisible = "Page is not visible";
 
 class Control {
  public:
@@ -43,6 +49,7 @@ class Control {
 
  protected:
   void notify() { sink_->controlChanged(*this); }
+  void run(const Handler& handler) { sink_->runHandler(handler); }
 
  private:
   const ControlSpec* spec_;
@@ -163,6 +170,9 @@ class MultiPage : public Control {
   int value() const { return value_; }
   // Switching tabs; a hidden page cannot be the one showing.
   void setValue(int pageIndex);
+  // The page a person's step from `from` lands on, passing over hidden pages and going round
+  // the ends as tabs do; -1 when no other page shows.
+  int visiblePageFrom(int from, int step) const;
   void setPages(std::vector<Page*> pages) { pages_ = std::move(pages); }
   const std::vector<Page*>& pages() const { return pages_; }
   void pageVisibilityChanged(const Page& page);

@@ -1,7 +1,10 @@
 #include "ui/user_form.h"
 
+#include "ui/scoped.h"
+
 #include <algorithm>
 #include <array>
+#include <exception>
 #include <map>
 
 namespace pellam::ui {
@@ -88,6 +91,25 @@ void UserForm1::setVisible(bool visible) {
 void UserForm1::controlChanged(const Control& control) {
   if (control.kind() == Kind::Page) MultiPage1.pageVisibilityChanged(static_cast<const Page&>(control));
   tell(&control);
+}
+
+void UserForm1::runHandler(const Handler& handler) {
+  if (!handler) return;
+  // A handler fired by another runs inside it, so that the caller's trap sees its errors.
+  if (handlerDepth_ > 0 || !errorReport_) {
+    handler();
+    return;
+  }
+  const Scoped depth(handlerDepth_, handlerDepth_ + 1);
+  try {
+    handler();
+  } catch (const std::exception& e) {
+    reportError(e.what());
+  }
+}
+
+void UserForm1::reportError(const std::string& what) {
+  if (errorReport_) errorReport_(what);
 }
 
 UserForm1::Subscription UserForm1::observe(Observer observer) {

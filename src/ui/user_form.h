@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -56,6 +57,13 @@ class UserForm1 final : public ChangeSink {
   [[nodiscard]] Subscription observe(Observer observer);
 
   void controlChanged(const Control& control) override;
+  // The outermost handler of a person's action is where an error no trap caught ends: it is
+  // reported once and the form, with the job, stays as it is and usable.
+  void runHandler(const Handler& handler) override;
+  using ErrorReport = std::function<void(const std::string& what)>;
+  void setErrorReport(ErrorReport report) { errorReport_ = std::move(report); }
+  // For faces: what escaped a person's action outside any handler goes to the same report.
+  void reportError(const std::string& what);
 
  private:
   void tell(const Control* control);
@@ -63,6 +71,8 @@ class UserForm1 final : public ChangeSink {
   std::vector<Control*> byName_;
   std::vector<std::pair<int, Observer>> observers_;
   int nextObserver_ = 0;
+  ErrorReport errorReport_;
+  int handlerDepth_ = 0;
   bool loaded_ = false;
   bool visible_ = false;
   bool modal_ = false;

@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include <sstream>
+#include <stdexcept>
 #include <streambuf>
 
 #include "component/script/form_script.h"
@@ -94,6 +95,21 @@ TEST(FormScript, QuestionsNeedQueuedAnswersThatFit) {
 
   r = run(kStart + "call Return_FileName_Path \"*.zpd\"\n");
   EXPECT_EQ(r.err, "error: line 2: no path queued for the file dialog\n");
+}
+
+// An error that escapes a handler is reported once and the script goes on; a handler fired
+// from another's code leaves its error to the caller.
+TEST(FormScript, AnEscapedErrorIsReportedAndTheSessionGoesOn) {
+  std::istringstream in(kStart + "click CommandButton17\nclick CommandButton4\nshow ComboBox1\n");
+  std::ostringstream out, err;
+  const int status = runFormScript(in, out, err, [](Session& s) {
+    s.form.CommandButton17.onClick = [&s] { s.form.CommandButton4.click(); };
+    s.form.CommandButton4.onClick = [] { throw std::logic_error("a fault of ours"); };
+  });
+  EXPECT_EQ(status, 0);
+  EXPECT_EQ(out.str(), "msgbox \"Unexpected Error: a fault of ours\" OK\n"
+                       "msgbox \"Unexpected Error: a fault of ours\" OK\n"
+                       "ComboBox1 index=-1 text=\"\" count=6 visible=1 enabled=1\n");
 }
 
 // A stream without line ends, as /dev/zero gives on standard input.

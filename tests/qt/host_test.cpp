@@ -1,7 +1,10 @@
 #include <QApplication>
 #include <QFileDialog>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTest>
 #include <fstream>
+#include <stdexcept>
 #include <gmock/gmock.h>
 
 #include "form_driver.h"
@@ -83,6 +86,31 @@ TEST(AppAsHost, SavedJobOpensWithItsModeAndName) {
   EXPECT_EQ(other.shownText("ComboBox1"), "Station Link");
   EXPECT_TRUE(other.tabShown(5));
   EXPECT_EQ(other.window().windowTitle(), "Hall.txt - Pellam Setup");
+}
+
+// Nothing a person does ends the program: the tab bar's keys pass over hidden pages, and an
+// error that escapes the core comes as a message box with the job kept.
+TEST(AppAsHost, NothingAPersonDoesEndsTheProgram) {
+  FormDriver app;
+  app.confirmBoard(3);
+  auto* tabs = qobject_cast<QTabWidget*>(app.widget("MultiPage1"));
+  tabs->tabBar()->setFocus();
+  const std::pair<Qt::Key, Qt::KeyboardModifiers> keys[] = {
+      {Qt::Key_Right, Qt::NoModifier}, {Qt::Key_Right, Qt::NoModifier}, {Qt::Key_Right, Qt::NoModifier},
+      {Qt::Key_Left, Qt::NoModifier},  {Qt::Key_Tab, Qt::ControlModifier}, {Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier}};
+  std::vector<int> shown;
+  for (const auto& [key, modifiers] : keys) {
+    QTest::keyClick(key == Qt::Key_Right || key == Qt::Key_Left ? static_cast<QWidget*>(tabs->tabBar()) : tabs, key, modifiers);
+    shown.push_back(app.form().MultiPage1.value());
+    EXPECT_EQ(tabs->currentIndex(), shown.back());
+    EXPECT_TRUE(app.tabShown(shown.back()));
+  }
+  EXPECT_EQ(shown.front(), 3);
+
+  app.form().CommandButton4.onClick = [] { throw std::logic_error("a fault of ours"); };
+  app.click("CommandButton4");
+  EXPECT_THAT(app.boxes.seen, ElementsAre("msgbox \"Unexpected Error: a fault of ours\" -> OK"));
+  EXPECT_EQ(app.form().ComboBox1.listIndex(), 3) << "the job is still there";
 }
 
 // Looking at a job changes nothing; the form's own Save Job button saves it as the menu does.

@@ -2,8 +2,12 @@
 
 #include <map>
 #include <set>
+#include <stdexcept>
 #include <string>
+#include <vector>
 
+#include "job/runtime_error.h"
+#include "ui/trap.h"
 #include "ui/user_form.h"
 
 namespace pellam::ui {
@@ -76,8 +80,8 @@ TEST(ListControl, IndexFromCodeFiresOnlyOnChangeAPersonsChoiceAlways) {
   form.ComboBox1.select(1);
   EXPECT_EQ(clicks, 2);
   EXPECT_EQ(form.ComboBox1.text(), "a");
-  EXPECT_THROW(form.ComboBox1.setListIndex(3), std::out_of_range);
-  EXPECT_THROW(form.ComboBox1.select(-2), std::out_of_range);
+  EXPECT_THROW(form.ComboBox1.setListIndex(3), job::RuntimeError);
+  EXPECT_THROW(form.ComboBox1.select(-2), job::RuntimeError);
   form.ComboBox1.setListIndex(-1);
   EXPECT_EQ(form.ComboBox1.text(), "");
   form.ComboBox1.setItems({"x"});
@@ -96,12 +100,36 @@ TEST(OptionButton, ChoosingOneClearsOnlyItsFrame) {
 
 TEST(MultiPage, HidingTheShownPageMovesToAVisibleOne) {
   UserForm1 form;
-  EXPECT_THROW(form.MultiPage1.setValue(3), std::out_of_range) << "editor pages start hidden";
+  EXPECT_THROW(form.MultiPage1.setValue(3), job::RuntimeError) << "editor pages start hidden";
   form.Page4.setVisible(true);
   form.MultiPage1.setValue(3);
   form.Page4.setVisible(false);
   EXPECT_EQ(form.MultiPage1.value(), 0);
-  EXPECT_THROW(form.MultiPage1.setValue(3), std::out_of_range) << "a hidden page cannot be shown";
+  EXPECT_THROW(form.MultiPage1.setValue(3), job::RuntimeError) << "a hidden page cannot be shown";
+}
+
+// A trap takes the board's run-time errors only; anything else reaches the form's report,
+// once, at the end of the person's action, and a nested handler's error reaches its caller.
+TEST(UserForm1, ErrorsEndWhereTheyBelong) {
+  UserForm1 form;
+  struct : Dialogs {
+    std::vector<std::string> shown;
+    Answer msgBox(const std::string& text, Buttons) override {
+      shown.push_back(text);
+      return Answer::OK;
+    }
+    std::string openFile(const FileDialogRequest&) override { return {}; }
+  } dialogs;
+  form.setErrorReport([&](const std::string& what) { dialogs.shown.push_back("report: " + what); });
+  form.ComboBox2.onClick = [] { throw job::RuntimeError(job::kOverflow); };
+  form.ComboBox1.onClick = [&] { trap(dialogs, "Error M2Trap20", [&] { form.ComboBox2.select(0); }); };
+  form.CommandButton4.onClick = [&] { trap(dialogs, "never shown", [] { throw std::logic_error("fault"); }); };
+  form.ComboBox1.setItems({"", "a"});
+  form.ComboBox2.setItems({""});
+  form.ComboBox1.select(1);
+  form.CommandButton4.click();
+  form.ComboBox2.select(0);
+  EXPECT_EQ(dialogs.shown, (std::vector<std::string>{"Error M2Trap20", "report: fault", "report: Overflow"}));
 }
 
 // Each face that draws the form is told, until its subscription ends.

@@ -8,6 +8,7 @@
 #include "files/file_type.h"
 #include "files/job_paths.h"
 #include "files/upload.h"
+#include "ui/scoped.h"
 #include "ui/trap.h"
 
 namespace pellam::component {
@@ -72,10 +73,19 @@ void UploadPage::Upload() {
   }
   request.image = std::move(job.bytes);
 
-  busy_ = true;
+  const ui::Scoped busy(busy_, true);
   f.Label60.setCaption("Starting Up Load Please Wait");
   f.Label60.setVisible(true);
   f.CommandButton27.setVisible(false);
+  // The frame comes back ready for the next upload, whatever ends this one.
+  struct FrameBack {
+    ui::UserForm1& f;
+    ~FrameBack() {
+      f.Label60.setCaption("Click On File Name To UpLoad");
+      f.Label60.setVisible(true);
+      f.CommandButton27.setVisible(true);
+    }
+  } frameBack{f};
   auto lastBlink = std::chrono::steady_clock::now();
   const files::TransferTick tick = [&](const files::TransferProgress&) {
     if (const auto now = std::chrono::steady_clock::now(); now - lastBlink >= kBlink) {
@@ -90,10 +100,6 @@ void UploadPage::Upload() {
     for (const std::string& message : outcome.messages) d.msgBox(message, ui::Buttons::OK);
     if (!outcome.logPath.empty()) f.Label62.setCaption(outcome.logPath);
   });
-  f.Label60.setCaption("Click On File Name To UpLoad");
-  f.Label60.setVisible(true);
-  f.CommandButton27.setVisible(true);
-  busy_ = false;
 }
 
 }  // namespace pellam::component

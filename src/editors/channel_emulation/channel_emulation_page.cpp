@@ -1,5 +1,7 @@
 #include "editors/channel_emulation/channel_emulation_page.h"
 
+#include "ui/scoped.h"
+
 #include "job/runtime_error.h"
 
 #include <algorithm>
@@ -180,9 +182,8 @@ void ChannelEmulationPage::clickLine(ui::ListBox& clicked, ui::ListBox& other, b
   } else {
     form_.CommandButton19.setCaption(kActionOneLevel);
   }
-  ListRefreshing = true;
+  const ui::Scoped refreshing(ListRefreshing, true);
   other.setListIndex(line < other.count() ? line : -1);
-  ListRefreshing = false;
 }
 
 bool ChannelEmulationPage::inputRefused() {

@@ -1,5 +1,7 @@
 #include "editors/preset_emulation/preset_emulation_page.h"
 
+#include "ui/scoped.h"
+
 #include "job/runtime_error.h"
 
 #include <vector>
@@ -86,9 +88,10 @@ void PresetEmulationPage::ListDecoded() {
     }
   }
   // A job without entries opens with no input chosen, and without telling the person so.
-  ListRefreshing = true;
-  form_.ComboBox42.setListIndex(-1);
-  ListRefreshing = false;
+  {
+    const ui::Scoped refreshing(ListRefreshing, true);
+    form_.ComboBox42.setListIndex(-1);
+  }
   SelectedInput = -1;
   emptyBoth();
 }
@@ -198,7 +201,7 @@ void PresetEmulationPage::emptyBoth() {
 }
 
 void PresetEmulationPage::relist(Bank& b, ActionText actionText) {
-  ListRefreshing = true;
+  const ui::Scoped refreshing(ListRefreshing, true);
   b.list.clear();
   const int slot = SelectedInput + b.slotOffset;
   std::string action;
@@ -209,7 +212,6 @@ void PresetEmulationPage::relist(Bank& b, ActionText actionText) {
     b.list.addItem(entryLine(kindName(r.StationKind), r, action));
     r.ListPosition = job::narrow(b.list.count() - 1);
   }
-  ListRefreshing = false;
 }
 
 }  // namespace pellam::editors::preset_emulation

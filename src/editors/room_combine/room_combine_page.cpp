@@ -1,5 +1,7 @@
 #include "editors/room_combine/room_combine_page.h"
 
+#include "ui/scoped.h"
+
 #include "job/runtime_error.h"
 
 #include <cstddef>
@@ -147,9 +149,8 @@ void RoomCombinePage::clickLine() {
 }
 
 void RoomCombinePage::selectLine(int line) {
-  selecting_ = true;
+  const ui::Scoped selecting(selecting_, true);
   form_.ListBox1.setListIndex(line);
-  selecting_ = false;
 }
 
 }  // namespace pellam::editors::room_combine

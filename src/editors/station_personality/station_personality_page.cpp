@@ -1,5 +1,7 @@
 #include "editors/station_personality/station_personality_page.h"
 
+#include "ui/scoped.h"
+
 #include "job/runtime_error.h"
 
 #include <cstddef>
@@ -95,14 +97,13 @@ void StationPersonalityPage::clickLine() {
     const job::StationPersonalityRecord& r = table_.records[static_cast<std::size_t>(s)];
     // Records never added may still carry line 0 from before any list was built.
     if (r.PersNetIdPlusOne <= 0 || r.PersListPosition != line) continue;
-    fillingChoosers_ = true;
+    const ui::Scoped filling(fillingChoosers_, true);
     // A decoded record has no series: the one chosen stays.
     if (r.PersSeries == kT3100Series) form_.ComboBox17.setListIndex(0);
     if (r.PersSeries == kT6600Series) form_.ComboBox17.setListIndex(1);
     showIndex(form_.ComboBox18, r.PersNumber);
     showIndex(form_.ComboBox19, r.PersNetIdPlusOne - 1);
     showIndex(form_.ComboBox43, r.PersRoom);
-    fillingChoosers_ = false;
     return;
   }
 }

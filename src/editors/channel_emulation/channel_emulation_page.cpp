@@ -108,6 +108,13 @@ void ChannelEmulationPage::reset() {
   SelectedInput = FadeRateOne = FadeRateTwo = FromChannel = ToChannelOffset = 0;
   LevelOne = LevelTwo = SelectedChannelOne = SelectedChannelTwo = 0;
   ListRefreshing = false;
+  // Unloading the form puts the caption back to "Add Channels"; the mode goes with it.
+  levelOneButton_ = LevelOneButton::AddChannels;
+}
+
+void ChannelEmulationPage::setLevelOneButton(LevelOneButton mode) {
+  levelOneButton_ = mode;
+  form_.CommandButton19.setCaption(mode == LevelOneButton::AddChannels ? kAddChannels : kActionOneLevel);
 }
 
 void ChannelEmulationPage::ListDecoded() {
@@ -180,7 +187,7 @@ void ChannelEmulationPage::clickLine(ui::ListBox& clicked, ui::ListBox& other, b
     form_.CommandButton23.setEnabled(true);
     form_.ComboBox47.setEnabled(true);
   } else {
-    form_.CommandButton19.setCaption(kActionOneLevel);
+    setLevelOneButton(LevelOneButton::ChangeLevel);
   }
   const ui::Scoped refreshing(ListRefreshing, true);
   other.setListIndex(line < other.count() ? line : -1);
@@ -200,7 +207,7 @@ void ChannelEmulationPage::addOrChangeLevelOne() {
   one.FadeRate = FadeRateOne;
   actionTwo().FadeRate = FadeRateTwo;
 
-  if (form_.CommandButton19.caption() != kActionOneLevel) {
+  if (levelOneButton_ == LevelOneButton::AddChannels) {
     addChannels();
     relist();
     return;
@@ -296,7 +303,7 @@ void ChannelEmulationPage::relist() { listInput(actionOne(), actionTwo(), form_.
 
 // The lists were rebuilt, so nothing is selected any more: no change or delete is offered.
 void ChannelEmulationPage::backToIdle() {
-  form_.CommandButton19.setCaption(kAddChannels);
+  setLevelOneButton(LevelOneButton::AddChannels);
   form_.CommandButton23.setEnabled(false);
   form_.CommandButton6.setEnabled(false);
   form_.ComboBox45.setEnabled(true);

@@ -39,8 +39,12 @@ class ChannelEmulationPage {
   std::int16_t SelectedChannelOne = 0;
   std::int16_t SelectedChannelTwo = 0;
   bool ListRefreshing = false;
+  // What CommandButton19 does next; its caption is drawn from this.
+  enum class LevelOneButton { AddChannels, ChangeLevel };
+  LevelOneButton levelOneButton() const { return levelOneButton_; }
 
  private:
+  void setLevelOneButton(LevelOneButton mode);
   void chooseInput();
   void chooseFirstChannel();
   void clickLine(ui::ListBox& clicked, ui::ListBox& other, bool actionTwo);
@@ -54,6 +58,7 @@ class ChannelEmulationPage {
   void relist();
   void backToIdle();
   bool inputRefused();
+  LevelOneButton levelOneButton_ = LevelOneButton::AddChannels;
   job::ChannelEmulationRecord& actionOne();
   job::ChannelEmulationRecord& actionTwo();
 

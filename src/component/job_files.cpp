@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "component/operating_modes.h"
 #include "component/start_up.h"
 #include "editors/room_combine/views.h"
 #include "files/room_combine_report.h"
@@ -78,50 +79,20 @@ void displayBoard(Session& s, const image::DecodedBoard& b) {
   s.boardPage.refreshDependentControls();
 }
 
+// Remote commands and master inputs are packed in every mode, so every mode reads them back;
+// then the regions of the mode.
 void decodeRegions(Session& s, int mode) {
-  job::Job& job = s.job;
-  const job::InputNumberTable* numbering = image::optionBitZero(job.board.BoardOptions) ? &job.inputNumbering : nullptr;
   const image::EepromImage& img = s.image;
   ui::Dialogs& d = s.dialogs();
-  // Remote commands and master inputs are packed in every mode, so every mode reads them back.
   ui::trap(d, "Error M11Trap3", [&] {
-    image::DecodeRemoteCommands(img, job.remoteCommands);
+    image::DecodeRemoteCommands(img, s.job.remoteCommands);
     s.remoteCommandsPage.ListDecoded();
   });
   ui::trap(d, "Error M13Trap2", [&] {
-    image::DecodeMasterInputs(img, job.masterInputs);
+    image::DecodeMasterInputs(img, s.job.masterInputs);
     s.masterInputsPage.ListDecoded();
   });
-  switch (mode) {
-    case 1:
-      image::DecodeChannelEmulation(img, job.channelEmulation);
-      s.channelEmulationPage.ListDecoded();
-      break;
-    case 2:
-      image::DecodeRoomLink(img, job.roomLink);
-      s.roomLinkPage.ListDecoded(mode);
-      break;
-    case 3:
-      image::DecodeRoomLink(img, job.roomLink);
-      s.roomLinkPage.ListDecoded(mode);
-      image::DecodeRoomCombine(img, job.roomCombine);
-      s.roomCombinePage.ListDecoded();
-      image::DecodeStationsFormA(img, job.stationLink, numbering);
-      s.stationLinkPage.ListDecoded();
-      break;
-    case 4:
-      image::DecodePresetEmulation(img, job.presetEmulation);
-      s.presetEmulationPage.ListDecoded();
-      break;
-    case 5:
-      image::DecodeRoomLink(img, job.roomLink);
-      s.roomLinkPage.ListDecoded(mode);
-      image::DecodeStationsFormB(img, job.stationLink, job.stationPersonality, numbering);
-      s.stationLinkPage.ListDecoded();
-      s.stationPersonalityPage.ListDecoded();
-      break;
-    default: break;
-  }
+  if (const OperatingMode* m = operatingMode(mode)) m->decode(s);
 }
 
 // The report lists the room-combine lines as the all view shows them, so that view is rebuilt
@@ -147,12 +118,17 @@ std::string SaveJobSequence(Session& s, const std::string& jobPath, const std::s
     s.dialogs().msgBox(noFolder, ui::Buttons::OK);
     return {};
   }
-  const std::string zpd = files::SaveJob(jobPath, s.inputBank, s.job, s.image, s.dialogs(), [&] { return roomCombineReport(s); });
+  const OperatingMode* mode = operatingMode(s.job.board.OperatingMode);
+  const std::string zpd = files::SaveJob(jobPath, s.inputBank, s.image, s.dialogs(), [&](files::JobFiles& files) {
+    if (!mode) return;
+    if (mode->keepsReport) files.exact(files::kReportSuffix, roomCombineReport(s));
+    mode->save(s, files);
+  });
   if (!zpd.empty()) {
     created.keep();
     s.currentJobFile = zpd;
     s.form.Label144.setCaption(zpd);
-    if (s.job.board.OperatingMode == 3 && !s.shell().openInViewer(files::reportPath(jobPath))) {
+    if (mode && mode->keepsReport && !s.shell().openInViewer(files::reportPath(jobPath))) {
       s.dialogs().msgBox("Can't Start Notepad", ui::Buttons::OK);
     }
   }
@@ -205,7 +181,8 @@ bool OpenJobSequence(Session& s, const std::string& path) {
   DecodeImage(s);
   s.currentJobFile = path;
   s.companionReport.clear();
-  if (s.job.board.OperatingMode == 3) s.companionReport = files::ReadTextFile(files::companionReportPath(path)).value_or("");
+  const OperatingMode* mode = operatingMode(s.job.board.OperatingMode);
+  if (mode && mode->keepsReport) s.companionReport = files::ReadTextFile(files::companionReportPath(path)).value_or("");
   s.markUnmodified();
   return true;
 }

@@ -1,5 +1,7 @@
 #include "component/job_listing.h"
 
+#include "component/operating_modes.h"
+
 #include <sstream>
 
 #include "editors/channel_emulation/list_lines.h"
@@ -19,6 +21,8 @@ namespace {
 constexpr int kBank = image::map::kInputsPerBank;
 
 void heading(std::ostream& out, const char* title) { out << '\n' << title << ":\n"; }
+
+}  // namespace
 
 void listRoomLinks(std::ostream& out, const job::Job& job) {
   heading(out, "Room links");
@@ -89,6 +93,8 @@ void listRoomCombine(std::ostream& out, const job::Job& job) {
 }
 
 // Remote commands, master inputs and input numbering are carried by every mode.
+namespace {
+
 void listSettings(std::ostream& out, const job::Job& job) {
   std::ostringstream remote;
   for (int page = 1; page <= kBank; ++page) {
@@ -130,22 +136,7 @@ std::string listJob(Session& session) {
   }
   out << '\n';
   const job::Job& job = session.job;
-  switch (job.board.OperatingMode) {
-    case 1: listChannelEmulation(out, job); break;
-    case 2: listRoomLinks(out, job); break;
-    case 3:
-      listRoomLinks(out, job);
-      listStations(out, job);
-      listRoomCombine(out, job);
-      break;
-    case 4: listPresets(out, job); break;
-    case 5:
-      listRoomLinks(out, job);
-      listStations(out, job);
-      listPersonalities(out, job);
-      break;
-    default: break;
-  }
+  if (const OperatingMode* mode = operatingMode(job.board.OperatingMode)) mode->list(out, job);
   listSettings(out, job);
   return out.str();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ostream>
 #include <string>
 
 #include "component/session.h"
@@ -9,5 +10,13 @@ namespace pellam::component {
 // The job of a session as a person reads it: the board summary, then each table of the
 // operating mode as its editor lists it, and the settings every mode carries.
 std::string listJob(Session& session);
+
+// Each table as its editor lists it, under a heading; the operating modes name which they show.
+void listRoomLinks(std::ostream& out, const job::Job& job);
+void listStations(std::ostream& out, const job::Job& job);
+void listChannelEmulation(std::ostream& out, const job::Job& job);
+void listPresets(std::ostream& out, const job::Job& job);
+void listPersonalities(std::ostream& out, const job::Job& job);
+void listRoomCombine(std::ostream& out, const job::Job& job);
 
 }  // namespace pellam::component

@@ -15,9 +15,6 @@ class PageNavigation final : public setup::ModePages {
   void hideModePages() override;
   void showModePage() override;
 
-  // The editor page of operating mode 1..5, or nullptr.
-  static ui::Page* pageOfMode(ui::UserForm1& form, int mode);
-
  private:
   ui::UserForm1& form_;
   const job::BoardSetup& board_;

@@ -2,9 +2,10 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "image/eeprom_image.h"
-#include "job/job.h"
+#include "files/replace_files.h"
 #include "ui/dialogs.h"
 
 namespace pellam::files {
@@ -17,16 +18,34 @@ bool hasTxtExtension(const std::string& jobPath);
 // With any other setting the second bank's text (inputs 17..32) is written too.
 inline constexpr int kFirstBankOnly = 2;
 
-// Writes the text files of the operating mode, packing each mode table into the image as its
-// file is made, then the 32,767-byte image file. Files are replaced whole: all are written
-// beside their targets first and renamed over them only when every one was written. Returns
-// the .zpd path, or an empty string when nothing was saved (a message said why).
-// A room-combine job (mode 3) writes its report first; `makeReport` builds it once the path
-// has passed its checks.
-std::string SaveJob(const std::string& jobPath, int inputBank, const job::Job& job, image::EepromImage& image,
-                    ui::Dialogs& dialogs, const std::function<std::string()>& makeReport);
+// The files a save writes besides the image, each named by the job's prefix and a suffix.
+class JobFiles {
+ public:
+  JobFiles(const std::string& jobPath, int inputBank);
+  // A file of command lines, closed by the file end every whole file carries.
+  void whole(const std::string& suffix, const std::string& text);
+  // A file as it is given (the room-combine report).
+  void exact(const std::string& suffix, std::string text);
+  // One text per input from `first` to 16, each followed by its second-bank partner's.
+  void perInput(const std::string& suffix, int first, const std::function<std::string(int)>& textOf);
+
+  const std::string& prefix() const { return prefix_; }
+  const std::vector<JobFile>& files() const { return files_; }
+
+ private:
+  std::string prefix_;
+  int inputBank_;
+  std::vector<JobFile> files_;
+};
+
+// Writes the files the operating mode's steps add, packing its tables into the image as they
+// go, then the 32,767-byte image file, all or nothing. Returns the .zpd path, or an empty
+// string when nothing was saved (a message said why).
+std::string SaveJob(const std::string& jobPath, int inputBank, image::EepromImage& image, ui::Dialogs& dialogs,
+                    const std::function<void(JobFiles&)>& writeModeFiles);
 
 // The report a room-combine save writes beside its job.
+inline constexpr const char* kReportSuffix = "UserData.txt";
 std::string reportPath(const std::string& jobPath);
 
 }  // namespace pellam::files

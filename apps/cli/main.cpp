@@ -95,13 +95,9 @@ int uploadJob(int argc, char** argv) {
     return kUsageError;
   }
   component::UnattendedSession session(std::cout);
-  pellam::ui::UserForm1& f = session->form;
-  session->currentJobFile = file;
-  f.ComboBox50.select(std::stoi(netId));
-  f.TextBox7.setText(address);
-  f.CommandButton27.click();
-  if (!f.Label62.caption().empty()) std::cout << "log: " << f.Label62.caption() << "\n";
-  return session->uploadPage.lastCompleted ? 0 : kRefused;
+  const auto result = session->uploadPage.upload({std::stoi(netId), file, address});
+  if (!result.logPath.empty()) std::cout << "log: " << result.logPath << "\n";
+  return result.completed ? 0 : kRefused;
 }
 
 }  // namespace

@@ -127,8 +127,7 @@ bool MainWindow::saveAs() {
 
 void MainWindow::upload() {
   // The upload frame is where the target station and the controller are chosen.
-  session_.form.Frame23.setVisible(true);
-  session_.form.MultiPage1.setValue(0);
+  session_.navigation.showUploadFrame();
   view_->flush();
   if (QWidget* target = view_->widgetFor("ComboBox50")) target->setFocus();
 }

@@ -22,4 +22,9 @@ void PageNavigation::showModePage() {
   if (image::optionBitZero(board_.BoardOptions)) form_.Page9.setVisible(true);
 }
 
+void PageNavigation::showUploadFrame() {
+  form_.Frame23.setVisible(true);
+  form_.MultiPage1.setValue(0);
+}
+
 }  // namespace pellam::component

@@ -14,6 +14,8 @@ class PageNavigation final : public setup::ModePages {
 
   void hideModePages() override;
   void showModePage() override;
+  // The board page with its upload frame open, where a face sends a person to upload.
+  void showUploadFrame();
 
  private:
   ui::UserForm1& form_;

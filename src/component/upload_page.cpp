@@ -31,45 +31,49 @@ std::string UploadPage::imageToSend() const {
 }
 
 void UploadPage::Upload() {
-  if (busy_) return;
+  const Result result = upload({s_.form.ComboBox50.listIndex(), imageToSend(), s_.form.TextBox7.text()});
+  if (!result.logPath.empty()) s_.form.Label62.setCaption(result.logPath);
+}
+
+UploadPage::Result UploadPage::upload(const Order& order) {
+  if (busy_) return {};
   ui::UserForm1& f = s_.form;
   ui::Dialogs& d = s_.dialogs();
   lastCompleted = false;
-  const int netId = f.ComboBox50.listIndex();
-  if (netId < 1) {
+  if (order.netId < 1) {
     d.msgBox("Target Station NetID not Selected", ui::Buttons::OK);
-    return;
+    return {};
   }
   // Everything a person typed is checked before a file is written.
   files::UploadRequest request;
-  request.netId = netId;
-  request.imagePath = imageToSend();
+  request.netId = order.netId;
+  request.imagePath = order.imagePath;
   if (request.imagePath.empty()) {
     d.msgBox("No File Selected", ui::Buttons::OK);
-    return;
+    return {};
   }
-  request.addressText = f.TextBox7.text();
+  request.addressText = order.address;
   if (request.addressText.empty()) {
     d.msgBox("RQC IP Address Not Entered", ui::Buttons::OK);
-    return;
+    return {};
   }
   const auto address = files::parseControllerAddress(request.addressText);
   if (!address) {
     d.msgBox("Not An IP Address Or Host Name: " + request.addressText, ui::Buttons::OK);
-    return;
+    return {};
   }
   request.address = *address;
   const files::SettingsRead settings = files::readControllerSettings(settingsPath);
   if (!settings.problem.empty()) {
     d.msgBox("Controller Settings Not Understood: " + settings.problem, ui::Buttons::OK);
-    return;
+    return {};
   }
   request.settings = settings.settings;
   // Read once: the bytes checked here are the bytes sent.
   files::JobImage job = files::ReadJobImage(request.imagePath);
   if (!job.problem.empty()) {
     d.msgBox(job.problem, ui::Buttons::OK);
-    return;
+    return {};
   }
   request.image = std::move(job.bytes);
 
@@ -94,12 +98,14 @@ void UploadPage::Upload() {
     }
     if (keepResponsive) keepResponsive();
   };
+  Result result;
   ui::trap(d, "RQC Connection Time Out", [&] {
     const files::UploadOutcome outcome = files::UploadImage(request, *transport, s_.clock(), tick);
-    lastCompleted = outcome.completed;
+    lastCompleted = result.completed = outcome.completed;
+    result.logPath = outcome.logPath;
     for (const std::string& message : outcome.messages) d.msgBox(message, ui::Buttons::OK);
-    if (!outcome.logPath.empty()) f.Label62.setCaption(outcome.logPath);
   });
+  return result;
 }
 
 }  // namespace pellam::component

@@ -19,6 +19,21 @@ class UploadPage {
   UploadPage(const UploadPage&) = delete;
   UploadPage& operator=(const UploadPage&) = delete;
 
+  // What a face asks for: the image to send, the target station and the controller.
+  struct Order {
+    int netId = 0;
+    std::string imagePath;
+    std::string address;
+  };
+  struct Result {
+    bool completed = false;  // the controller confirmed it took every byte
+    std::string logPath;     // empty when nothing was logged
+  };
+  // Checks the order, sends the image and tells the person the outcome; refusals and
+  // messages go through the session's dialogs. Does nothing while another upload runs.
+  Result upload(const Order& order);
+
+  // CommandButton27: the order as the upload frame holds it.
   void Upload();
 
   // Where the controller's login and remote-name prefix are read from, on every upload.
@@ -29,6 +44,7 @@ class UploadPage {
   std::function<void()> keepResponsive;
   // Whether the controller confirmed it took every byte of the last upload.
   bool lastCompleted = false;
+  bool busy() const { return busy_; }
 
  private:
   std::string imageToSend() const;

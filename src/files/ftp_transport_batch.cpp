@@ -15,6 +15,22 @@ namespace pellam::files {
 
 namespace {
 
+// The client's process handle: closed, and the client ended, whatever a tick throws.
+class ClientProcess {
+ public:
+  explicit ClientProcess(HANDLE process) : process_(process) {}
+  ~ClientProcess() {
+    if (WaitForSingleObject(process_, 0) == WAIT_TIMEOUT) TerminateProcess(process_, 1);
+    CloseHandle(process_);
+  }
+  ClientProcess(const ClientProcess&) = delete;
+  ClientProcess& operator=(const ClientProcess&) = delete;
+  HANDLE get() const { return process_; }
+
+ private:
+  HANDLE process_;
+};
+
 class BatchTransport final : public FtpTransport {
  public:
   TransferResult run(const TransferJob& job, const TransferTick& tick) override {
@@ -30,13 +46,14 @@ class BatchTransport final : public FtpTransport {
       throw std::runtime_error("the ftp client could not be started");
     }
     CloseHandle(process.hThread);
-    const ULONGLONG deadline = GetTickCount64() + static_cast<ULONGLONG>(job.timeout.count()) * 1000;
     DWORD state = WAIT_TIMEOUT;
-    while ((state = WaitForSingleObject(process.hProcess, 100)) == WAIT_TIMEOUT && GetTickCount64() < deadline) {
-      if (tick) tick({});
+    {
+      const ClientProcess client(process.hProcess);
+      const ULONGLONG deadline = GetTickCount64() + static_cast<ULONGLONG>(job.timeout.count()) * 1000;
+      while ((state = WaitForSingleObject(client.get(), 100)) == WAIT_TIMEOUT && GetTickCount64() < deadline) {
+        if (tick) tick({});
+      }
     }
-    if (state == WAIT_TIMEOUT) TerminateProcess(process.hProcess, 1);
-    CloseHandle(process.hProcess);
     std::error_code ec;
     const auto total = static_cast<long long>(std::filesystem::file_size(job.folder / job.fileName, ec));
     std::ifstream in(job.folder / kCapturedName, std::ios::binary);

@@ -1,17 +1,18 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 
-namespace pellam::component {
+#include "component/shared_session.h"
 
-class Session;
+namespace pellam::component {
 
 // The component's one public class. It keeps no state: every member calls one procedure of
 // the session and hands back its result. Arguments are by reference, as the host passes them.
 class Class1 {
  public:
-  Class1();  // talks to the process's shared session
+  Class1();  // a user of the process's shared session for as long as it lives
   explicit Class1(Session& session);
 
   void Class_Initialize();
@@ -28,6 +29,9 @@ class Class1 {
   void New_KX_Job_Display_Board_SetUp();
 
  private:
+  // Every member checks that it runs on the session's own thread.
+  Session& session() const;
+  std::shared_ptr<const SharedSession::User> user_;
   Session& session_;
 };
 

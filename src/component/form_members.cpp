@@ -11,6 +11,7 @@ void LoadUserForm(Session& s) {
   s.form.Frame23.setVisible(false);
   s.form.Frame28.setVisible(false);
   s.form.show(s.hostAllowsModelessForms);
+  if (!s.hostAllowsModelessForms && s.runModalForm) s.runModalForm();
 }
 
 // The form forgets its controls' contents and its board values; the tables stay.

@@ -2,10 +2,7 @@
 
 #include "job/job_content.h"
 
-#include <iostream>
-#include <memory>
-
-#include "component/platform.h"
+#include <stdexcept>
 
 namespace pellam::component {
 
@@ -31,12 +28,8 @@ Session::Session(ui::Dialogs& dialogs, ui::Shell& shell, ui::Clock& clock)
 
 bool Session::modified() const { return !job::sameContent(job, unmodified_); }
 
-Session& Session::shared() {
-  static UnattendedDialogs dialogs(std::cerr);
-  static NoViewer shell;
-  static SystemClock clock;
-  static const std::unique_ptr<Session> session = std::make_unique<Session>(dialogs, shell, clock);
-  return *session;
+void Session::checkThread() const {
+  if (std::this_thread::get_id() != owner_) throw std::logic_error("the session was called from another thread");
 }
 
 }  // namespace pellam::component

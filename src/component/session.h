@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <string>
+#include <thread>
 
 #include "component/files_page.h"
 #include "component/upload_page.h"
@@ -54,8 +56,8 @@ class Session {
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
 
-  // The one session that every Class1 of this process talks to.
-  static Session& shared();
+  // A session belongs to the thread that made it; a call from another is a fault of the face.
+  void checkThread() const;
 
   void setPlatform(ui::Dialogs& dialogs, ui::Shell& shell, ui::Clock& clock) { platform_.set(dialogs, shell, clock); }
   ui::Dialogs& dialogs() { return platform_; }
@@ -64,6 +66,9 @@ class Session {
 
   // Whether the host lets a component show a modeless form.
   bool hostAllowsModelessForms = true;
+  // Shows the form modally until the person closes or hides it: a face that draws the form
+  // sets it, so that a host without a modeless form still gets a usable one.
+  std::function<void()> runModalForm;
   // The .zpd last saved or opened: the file an upload sends.
   std::string currentJobFile;
   // The room-combine report read beside a mode-3 job when it was opened.
@@ -84,6 +89,7 @@ class Session {
  private:
   PlatformProxy platform_;
   job::Job unmodified_;
+  std::thread::id owner_ = std::this_thread::get_id();
 
  public:
   PageNavigation navigation;

@@ -1,6 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+#include <thread>
+
 #include "component/platform.h"
+#include "component/shared_session.h"
 #include "support/desk.h"
 
 namespace pellam::component {
@@ -59,19 +63,31 @@ TEST(Class1FormMembers, UnloadKeepsTheTablesAndLoadHonoursTheHost) {
   c.Unload_Pellam_Form();
   EXPECT_EQ(desk.job().roomCombine.records[12].CombineChannel, 12) << "the tables survive";
   desk.session().hostAllowsModelessForms = false;
+  int modalRuns = 0;
+  desk.session().runModalForm = [&] { ++modalRuns; };
   c.Load_User_Form();
   EXPECT_TRUE(desk.form().modal());
+  EXPECT_EQ(modalRuns, 1) << "the face runs the form until the person is done with it";
   EXPECT_FALSE(desk.form().Page2.visible()) << "a reloaded form shows no editor before a confirm";
 }
 
-TEST(Class1, EveryInstanceSharesTheProcessSession) {
-  Class1 first;
-  Class1 second;
-  first.Initailize_Pellam_Variables_And_Form();
-  Session::shared().form.ComboBox1.select(2);
-  second.Initailize_Pellam_Variables_And_Form();
-  EXPECT_EQ(Session::shared().form.ComboBox1.listIndex(), -1) << "the second instance reset the first one's form";
-  first.Unload_Pellam_Form();
+// Every Class1 of a process shares one session, which ends with the last of its users and
+// answers only the thread that made it.
+TEST(Class1, EveryInstanceSharesTheProcessSessionWhileOneLives) {
+  {
+    const SharedSession::User watch;
+    Class1 first;
+    Class1 second;
+    first.Initailize_Pellam_Variables_And_Form();
+    watch->form.ComboBox1.select(2);
+    second.Initailize_Pellam_Variables_And_Form();
+    EXPECT_EQ(watch->form.ComboBox1.listIndex(), -1) << "the second instance reset the first one's form";
+    EXPECT_EQ(SharedSession::users(), 3);
+    std::thread([&] { EXPECT_THROW(first.Load_User_Form(), std::logic_error); }).join();
+  }
+  EXPECT_EQ(SharedSession::users(), 0);
+  const SharedSession::User fresh;
+  EXPECT_FALSE(fresh->form.loaded()) << "the last user's leaving ended the session";
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include "main_window.h"
 
 #include <QCloseEvent>
-#include <QCoreApplication>
+#include <QMetaObject>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QKeySequence>
@@ -35,7 +35,11 @@ MainWindow::MainWindow(QWidget* parent)
   scroll->setFocusPolicy(Qt::NoFocus);
   setCentralWidget(scroll);
   buildMenu();
-  session_.uploadPage.keepResponsive = [] { QCoreApplication::processEvents(); };
+  // The transfer runs on a thread of its own; what it tells the form comes back through the
+  // event loop, so no handler runs in the middle of another.
+  session_.uploadPage.postToFace = [this](std::function<void()> done) {
+    QMetaObject::invokeMethod(this, std::move(done), Qt::QueuedConnection);
+  };
   const QSize form = view_->minimumSize();
   resize(form.width() + 4, form.height() + menuBar()->sizeHint().height() + 4);
   updateTitle();
@@ -43,7 +47,6 @@ MainWindow::MainWindow(QWidget* parent)
 
 // The form view observes the session's form: it goes before the session does.
 MainWindow::~MainWindow() {
-  session_.uploadPage.keepResponsive = nullptr;
   delete takeCentralWidget();
 }
 

@@ -1,6 +1,7 @@
 #include "component/upload_page.h"
 
 #include <chrono>
+#include <exception>
 #include <utility>
 
 #include "component/session.h"
@@ -8,8 +9,6 @@
 #include "files/file_type.h"
 #include "files/job_paths.h"
 #include "files/upload.h"
-#include "ui/scoped.h"
-#include "ui/trap.h"
 
 namespace pellam::component {
 
@@ -22,7 +21,9 @@ UploadPage::UploadPage(Session& session)
   s_.form.CommandButton27.onClick = [this] { Upload(); };
 }
 
-UploadPage::~UploadPage() = default;
+UploadPage::~UploadPage() {
+  if (worker_.joinable()) worker_.join();
+}
 
 // The file clicked in the job list, or else the job last saved or opened.
 std::string UploadPage::imageToSend() const {
@@ -30,10 +31,7 @@ std::string UploadPage::imageToSend() const {
   return chosen.empty() ? s_.currentJobFile : chosen;
 }
 
-void UploadPage::Upload() {
-  const Result result = upload({s_.form.ComboBox50.listIndex(), imageToSend(), s_.form.TextBox7.text()});
-  if (!result.logPath.empty()) s_.form.Label62.setCaption(result.logPath);
-}
+void UploadPage::Upload() { upload({s_.form.ComboBox50.listIndex(), imageToSend(), s_.form.TextBox7.text()}); }
 
 UploadPage::Result UploadPage::upload(const Order& order) {
   if (busy_) return {};
@@ -77,34 +75,56 @@ UploadPage::Result UploadPage::upload(const Order& order) {
   }
   request.image = std::move(job.bytes);
 
-  const ui::Scoped busy(busy_, true);
+  busy_ = true;
   f.Label60.setCaption("Starting Up Load Please Wait");
   f.Label60.setVisible(true);
   f.CommandButton27.setVisible(false);
-  // The frame comes back ready for the next upload, whatever ends this one.
-  struct FrameBack {
-    ui::UserForm1& f;
-    ~FrameBack() {
-      f.Label60.setCaption("Click On File Name To UpLoad");
-      f.Label60.setVisible(true);
-      f.CommandButton27.setVisible(true);
+  // Any error of the transfer is the upload's own failure, whatever threw it.
+  auto transfer = [this, request = std::move(request)](const files::TransferTick& tick) {
+    try {
+      return files::UploadImage(request, *transport, s_.clock(), tick);
+    } catch (const std::exception&) {
+      return files::UploadOutcome{false, {}, {"RQC Connection Time Out"}};
     }
-  } frameBack{f};
-  auto lastBlink = std::chrono::steady_clock::now();
-  const files::TransferTick tick = [&](const files::TransferProgress&) {
-    if (const auto now = std::chrono::steady_clock::now(); now - lastBlink >= kBlink) {
-      f.Label60.setVisible(!f.Label60.visible());
-      lastBlink = now;
-    }
-    if (keepResponsive) keepResponsive();
   };
-  Result result;
-  ui::trap(d, "RQC Connection Time Out", [&] {
-    const files::UploadOutcome outcome = files::UploadImage(request, *transport, s_.clock(), tick);
-    lastCompleted = result.completed = outcome.completed;
-    result.logPath = outcome.logPath;
-    for (const std::string& message : outcome.messages) d.msgBox(message, ui::Buttons::OK);
+  auto blink = [this, last = std::chrono::steady_clock::now()]() mutable {
+    if (const auto now = std::chrono::steady_clock::now(); now - last >= kBlink) {
+      last = now;
+      return true;
+    }
+    return false;
+  };
+  const auto toggle = [this] { s_.form.Label60.setVisible(!s_.form.Label60.visible()); };
+
+  if (!postToFace) {
+    const files::UploadOutcome outcome = transfer([&](const files::TransferProgress&) {
+      if (blink()) toggle();
+      if (keepResponsive) keepResponsive();
+    });
+    return finish(outcome);
+  }
+  // The face's own thread only draws: the form is touched in what is posted to it.
+  if (worker_.joinable()) worker_.join();
+  worker_ = std::thread([this, post = postToFace, transfer = std::move(transfer), blink, toggle]() mutable {
+    files::UploadOutcome outcome = transfer([&](const files::TransferProgress&) {
+      if (blink()) post(toggle);
+    });
+    post([this, outcome = std::move(outcome)] { finish(outcome); });
   });
+  return {};
+}
+
+UploadPage::Result UploadPage::finish(const files::UploadOutcome& outcome) {
+  ui::UserForm1& f = s_.form;
+  const Result result{outcome.completed, outcome.logPath};
+  lastCompleted = result.completed;
+  f.Label60.setCaption("Click On File Name To UpLoad");
+  f.Label60.setVisible(true);
+  f.CommandButton27.setVisible(true);
+  if (!result.logPath.empty()) f.Label62.setCaption(result.logPath);
+  busy_ = false;
+  for (const std::string& message : outcome.messages) s_.dialogs().msgBox(message, ui::Buttons::OK);
+  if (onUploaded) onUploaded(result);
   return result;
 }
 

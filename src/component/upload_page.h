@@ -3,8 +3,10 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <thread>
 
 #include "files/ftp_transport.h"
+#include "files/upload.h"
 
 namespace pellam::component {
 
@@ -30,8 +32,14 @@ class UploadPage {
     std::string logPath;     // empty when nothing was logged
   };
   // Checks the order, sends the image and tells the person the outcome; refusals and
-  // messages go through the session's dialogs. Does nothing while another upload runs.
+  // messages go through the session's dialogs. Does nothing while another upload runs. With
+  // postToFace set the transfer runs on a thread of its own and this returns at once: the
+  // outcome comes to onUploaded on the face's thread.
   Result upload(const Order& order);
+  // Runs a function on the face's own thread, soon; set by a face with an event loop.
+  std::function<void(std::function<void()>)> postToFace;
+  // Told each upload's result once its messages were shown.
+  std::function<void(const Result&)> onUploaded;
 
   // CommandButton27: the order as the upload frame holds it.
   void Upload();
@@ -40,7 +48,7 @@ class UploadPage {
   std::string settingsPath;
   // The transfer; the system's own unless a test gives another.
   std::unique_ptr<files::FtpTransport> transport;
-  // Run while the transfer goes on, so that a face can redraw and take clicks.
+  // Run while a transfer without postToFace goes on, so that a face can redraw.
   std::function<void()> keepResponsive;
   // Whether the controller confirmed it took every byte of the last upload.
   bool lastCompleted = false;
@@ -48,6 +56,8 @@ class UploadPage {
 
  private:
   std::string imageToSend() const;
+  Result finish(const files::UploadOutcome& outcome);
+  std::thread worker_;
   Session& s_;
   bool busy_ = false;
 };

@@ -3,7 +3,10 @@
 #include <stdlib.h>
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
+#include <functional>
+#include <mutex>
 #include <string>
 #include <thread>
 #include <vector>
@@ -135,6 +138,38 @@ TEST_F(UploadPageTest, ASilentControllerTimesOutAndTheFormStaysUsable) {
   EXPECT_EQ(f.Label60.caption(), "Click On File Name To UpLoad");
   EXPECT_EQ(leftovers(), Lines{});
   EXPECT_FALSE(fs::exists(job.file("RQCLog.txt"))) << "nothing was said, so nothing is logged";
+}
+
+// A face with an event loop gets its form back at once: the transfer runs on a thread of its
+// own, a second upload meanwhile does nothing, and the outcome comes through the face's queue.
+TEST_F(UploadPageTest, AFaceWithAnEventLoopIsNeverHeldUp) {
+  ControllerSim controller({{9}});
+  std::mutex posted;
+  std::vector<std::function<void()>> queue;
+  page().postToFace = [&](std::function<void()> f) {
+    const std::lock_guard lock(posted);
+    queue.push_back(std::move(f));
+  };
+  std::vector<bool> results;
+  page().onUploaded = [&](const UploadPage::Result& r) { results.push_back(r.completed); };
+  f.ComboBox50.select(9);
+  f.TextBox7.setText(address(controller));
+  f.CommandButton27.click();
+  EXPECT_EQ(f.Label60.caption(), "Starting Up Load Please Wait");
+  EXPECT_FALSE(f.CommandButton27.visible());
+  f.CommandButton27.click();
+  for (int turn = 0; results.empty() && turn < 2000; ++turn) {
+    std::vector<std::function<void()>> due;
+    {
+      const std::lock_guard lock(posted);
+      due.swap(queue);
+    }
+    for (auto& run : due) run();
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));
+  }
+  EXPECT_EQ(results, std::vector<bool>{true});
+  EXPECT_EQ(desk.shown(), Lines{okBox("Down Load Completed !!")});
+  EXPECT_TRUE(f.CommandButton27.visible());
 }
 
 // Each outcome has its message and one log entry of the dialogue. Only a transfer the

@@ -64,12 +64,11 @@ int members(const std::wstring& folder) {
   o->Return_File_Name(&path.value, &name.value, &result);
   say("Return_File_Name " + pellam::win::utf8(result));
   SysFreeString(result);
-  o->Return_Dir_Path(&path.value, &result);
-  say("Return_Dir_Path ends " + pellam::win::utf8(result).substr(pellam::win::utf8(folder).size()));
-  SysFreeString(result);
-
   const HRESULT saved = o->Create_Pellam_Zpd(&path.value, &empty);
   say("Create_Pellam_Zpd " + hex(saved) + " path " + (path.utf8() == pellam::win::utf8(job) ? "kept" : "changed"));
+  o->Return_Dir_Path(&path.value, &result);
+  say("Return_Dir_Path " + pellam::win::utf8(result));
+  SysFreeString(result);
 
   Text zpd(folder + L"\\Ωμέγα-Čáp\\Жук.zpd");
   short type = 0;

@@ -50,7 +50,7 @@ stage() {  # stage WIDTH FOLDER
   local build=build/mingw
   [ "$1" = 32 ] && build=build/mingw-i686
   mkdir -p "$2"
-  cp "$build/apps/win/Pellam.dll" "$build/apps/win/pellam_vtable_client.exe" tests/com/*.{vbs,js,answers,sh,txt} "$2/"
+  cp "$build/apps/win/Pellam.dll" "$build/apps/win/pellam_vtable_client.exe" tests/com/*.{vbs,js,answers,sh,txt} examples/*.vbs "$2/"
   cp -r "$linux/samples" "$2/"
   [ $bench = 0 ] || cp -r "$work/maximal" "$2/"
 }
@@ -84,7 +84,7 @@ judge() {  # judge WIDTH RESULTS
   local width=$1 r=$2 s
   echo "== COM $width-bit: $(tr '\n' ' ' <"$r/times.txt")"
   check "$width-bit registry" <(sed "s/{WIDTH}/$width/g" tests/com/expected/registry.out) "$r/registry.txt"
-  for s in members by_value samples vtable_members vtable_lifetime; do
+  for s in members by_value samples vtable_members vtable_lifetime open-and-save; do
     check "$width-bit $s" "tests/com/expected/$s.out" "$r/$s.txt"
   done
   for f in "$linux"/saved/*; do

@@ -7,6 +7,8 @@
 set -uo pipefail
 width=$1 stage=$2
 export WINEPREFIX=$stage/prefix WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
+# Wine names files in the Unix locale's charset: without UTF-8, non-Latin names cannot be made.
+export LANG=C.UTF-8
 unset DISPLAY
 results=$stage/results
 mkdir -p "$results"

@@ -84,7 +84,7 @@ judge() {  # judge WIDTH RESULTS
   local width=$1 r=$2 s
   echo "== COM $width-bit: $(tr '\n' ' ' <"$r/times.txt")"
   check "$width-bit registry" <(sed "s/{WIDTH}/$width/g" tests/com/expected/registry.out) "$r/registry.txt"
-  for s in members by_value samples vtable_members vtable_lifetime open-and-save; do
+  for s in members by_value samples typelib vtable_members vtable_lifetime open-and-save; do
     check "$width-bit $s" "tests/com/expected/$s.out" "$r/$s.txt"
   done
   for f in "$linux"/saved/*; do

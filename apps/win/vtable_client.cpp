@@ -1,6 +1,7 @@
 // Calls Class1 through its vtable, as an early-bound host does, and prints what it got:
 //   pellam_vtable_client members FOLDER   every member once, with non-Latin paths under FOLDER
 //   pellam_vtable_client lifetime         a thousand objects made and released
+//   pellam_vtable_client typelib DLL      the members the DLL's type library publishes
 // Lines are UTF-8, written straight to the handle.
 #include <string>
 
@@ -134,6 +135,76 @@ int lifetime() {
   return 0;
 }
 
+std::string typeName(const TYPEDESC& type) {
+  if (type.vt == VT_PTR) return typeName(*type.lptdesc) + "*";
+  switch (type.vt) {
+    case VT_BSTR: return "BSTR";
+    case VT_I2: return "short";
+    case VT_BOOL: return "VARIANT_BOOL";
+    case VT_VARIANT: return "VARIANT";
+    case VT_HRESULT: return "HRESULT";
+    default: return "vt" + std::to_string(type.vt);
+  }
+}
+
+// The interface as a host's compiler sees it: names, dispatch ids, argument kinds, results.
+int typelib(const std::wstring& dll) {
+  ITypeLib* library = nullptr;
+  if (FAILED(LoadTypeLibEx(dll.c_str(), REGKIND_NONE, &library))) {
+    say("no type library");
+    return 1;
+  }
+  BSTR name = nullptr;
+  library->GetDocumentation(-1, &name, nullptr, nullptr, nullptr);
+  say("library " + pellam::win::utf8(name));
+  SysFreeString(name);
+  ITypeInfo* info = nullptr;
+  library->GetTypeInfoOfGuid(IID__Class1, &info);
+  HREFTYPE vtableRef = 0;
+  ITypeInfo* vtable = nullptr;
+  if (SUCCEEDED(info->GetRefTypeOfImplType(static_cast<UINT>(-1), &vtableRef))) info->GetRefTypeInfo(vtableRef, &vtable);
+  TYPEATTR* attributes = nullptr;
+  vtable->GetTypeAttr(&attributes);
+  say(std::string("interface dual ") + ((attributes->wTypeFlags & TYPEFLAG_FDUAL) ? "yes" : "no"));
+  for (UINT f = 0; f < attributes->cFuncs; ++f) {
+    FUNCDESC* function = nullptr;
+    vtable->GetFuncDesc(f, &function);
+    BSTR names[8] = {};
+    UINT count = 0;
+    vtable->GetNames(function->memid, names, 8, &count);
+    std::string line = hex(function->memid) + " " + pellam::win::utf8(names[0]) + "(";
+    for (SHORT p = 0; p < function->cParams; ++p) {
+      const ELEMDESC& parameter = function->lprgelemdescParam[p];
+      const USHORT flags = parameter.paramdesc.wParamFlags;
+      if (p) line += ", ";
+      if (flags & PARAMFLAG_FIN) line += "in ";
+      if (flags & PARAMFLAG_FOUT) line += "out ";
+      if (flags & PARAMFLAG_FRETVAL) line += "retval ";
+      line += typeName(parameter.tdesc);
+      if (static_cast<UINT>(p + 1) < count) {
+        line += ' ';
+        line += pellam::win::utf8(names[p + 1]);
+      }
+    }
+    say(line + ")");
+    for (BSTR n : names) SysFreeString(n);
+    vtable->ReleaseFuncDesc(function);
+  }
+  vtable->ReleaseTypeAttr(attributes);
+  vtable->Release();
+  info->Release();
+  ITypeInfo* coclass = nullptr;
+  if (SUCCEEDED(library->GetTypeInfoOfGuid(CLSID_Class1, &coclass))) {
+    coclass->GetDocumentation(MEMBERID_NIL, &name, nullptr, nullptr, nullptr);
+    say("coclass " + pellam::win::utf8(name));
+    SysFreeString(name);
+    coclass->Release();
+  }
+  library->Release();
+  say("DONE");
+  return 0;
+}
+
 }  // namespace
 
 int wmain(int argc, wchar_t** argv) {
@@ -142,6 +213,7 @@ int wmain(int argc, wchar_t** argv) {
   int status = 2;
   if (mode == L"members" && argc > 2) status = members(argv[2]);
   if (mode == L"lifetime") status = lifetime();
+  if (mode == L"typelib" && argc > 2) status = typelib(argv[2]);
   CoUninitialize();
   return status;
 }

@@ -72,6 +72,7 @@ done
 PELLAM_TEST_ANSWERS='C:\pellam\vtable_client.answers' w 'C:\pellam\pellam_vtable_client.exe' members 'C:\pellam\out' \
   >"$results/vtable_members.txt"
 ls "$c/out/Ωμέγα-Čáp" >>"$results/vtable_members.txt" 2>&1
+w 'C:\pellam\pellam_vtable_client.exe' typelib 'C:\pellam\Pellam.dll' >"$results/typelib.txt"
 limit=300 w 'C:\pellam\pellam_vtable_client.exe' lifetime >"$results/vtable_lifetime.txt"
 if [ -d "$c/maximal" ]; then
   mkdir -p "$c/out/maximal"

@@ -53,6 +53,7 @@ stage() {  # stage WIDTH FOLDER
   cp "$build/apps/win/Pellam.dll" "$build/apps/win/pellam_vtable_client.exe" tests/com/*.{vbs,js,answers,sh,txt} examples/*.vbs "$2/"
   cp -r "$linux/samples" "$2/"
   [ $bench = 0 ] || cp -r "$work/maximal" "$2/"
+  [ "$1" = 64 ] || cp build/mingw/apps/win/Pellam.dll "$2/Pellam64.dll"
 }
 
 # wine32:i386 needs i386 libraries of the very versions of the amd64 ones; when apt cannot
@@ -84,11 +85,14 @@ judge() {  # judge WIDTH RESULTS
   local width=$1 r=$2 s
   echo "== COM $width-bit: $(tr '\n' ' ' <"$r/times.txt")"
   check "$width-bit registry" <(sed "s/{WIDTH}/$width/g" tests/com/expected/registry.out) "$r/registry.txt"
-  for s in members by_value samples typelib vtable_members vtable_lifetime open-and-save; do
+  for s in members by_value samples form typelib vtable_members vtable_lifetime open-and-save; do
     check "$width-bit $s" "tests/com/expected/$s.out" "$r/$s.txt"
   done
+  [ "$width" = 64 ] || check "both widths registered" tests/com/expected/both_widths.out "$r/both_widths.txt"
   for f in "$linux"/saved/*; do
     check "$width-bit saved $(basename "$f") as on Linux" <(od -An -tx1 "$f") <(od -An -tx1 "$r/out/windows/$(basename "$f")")
+    # the job saved through the form members is the opened sample itself
+    [ "$(basename "$f")" = Theatre.zpd ] && check "$width-bit form save" <(od -An -tx1 "$f") <(od -An -tx1 "$r/out/form/Shown.zpd")
   done
   [ -f "$r/save_maximal.txt" ] && echo "$width-bit COM save: $(head -1 "$r/save_maximal.txt"), Linux: $(cat "$work/linux_save.txt")"
 }

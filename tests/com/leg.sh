@@ -60,6 +60,31 @@ keys() {
   keys HKCU
 } >"$results/registry.txt"
 
+# Both widths in one prefix: unregistering one leaves what the other still uses.
+if [ "$width" = 32 ] && [ -f "$stage/Pellam64.dll" ]; then
+  mkdir -p "$c/x64" && cp "$stage/Pellam64.dll" "$c/x64/Pellam.dll"
+  seen() {  # seen VIEW KEY
+    if w reg query "HKLM\\Software\\Classes\\$2" "$1" >/dev/null; then echo "present $1 $2"; else echo "absent $1 $2"; fi
+  }
+  both() {
+    seen /reg:32 "CLSID\\$clsid\\InprocServer32"
+    seen /reg:64 "CLSID\\$clsid\\InprocServer32"
+    seen /reg:64 "PellamSetup.Class1\\CLSID"
+    seen /reg:32 "TypeLib\\$libid\\1.0\\0\\win32"
+    seen /reg:64 "TypeLib\\$libid\\1.0\\0\\win64"
+    seen /reg:64 "Interface\\$iid\\TypeLib"
+  }
+  {
+    w regsvr32 /s 'C:\pellam\x64\Pellam.dll' >/dev/null
+    w "$regsvr32" /s 'C:\pellam\Pellam.dll' >/dev/null
+    echo "-- both registered"; both
+    w "$regsvr32" /s /u 'C:\pellam\Pellam.dll' >/dev/null
+    echo "-- 32-bit unregistered"; both
+    w regsvr32 /s /u 'C:\pellam\x64\Pellam.dll' >/dev/null
+    echo "-- 64-bit unregistered"; both
+  } >"$results/both_widths.txt"
+fi
+
 w "$regsvr32" /s 'C:\pellam\Pellam.dll' >/dev/null
 for script in "$stage"/*.vbs "$stage"/*.js; do
   name=$(basename "$script")

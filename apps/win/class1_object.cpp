@@ -48,24 +48,17 @@ HRESULT guarded(Body&& body) {
 }
 
 // A by-reference string: the core works on UTF-8 and whatever it leaves goes back to the host.
-class InOutText {
- public:
-  explicit InOutText(BSTR* slot) : slot_(slot), text(utf8(*slot)), before_(text) {}
+struct InOutText {
+  explicit InOutText(BSTR* slot) : slot(slot), text(utf8(*slot)), before(text) {}
   void writeBack() {
-    if (text == before_) return;
+    if (text == before) return;
     BSTR changed = newBstr(text);
-    SysFreeString(*slot_);
-    *slot_ = changed;
+    SysFreeString(*slot);
+    *slot = changed;
   }
-
- private:
-  BSTR* slot_;
-
- public:
+  BSTR* slot;
   std::string text;
-
- private:
-  std::string before_;
+  std::string before;
 };
 
 void setEmpty(VARIANT* result) { VariantInit(result); }
@@ -82,6 +75,11 @@ HRESULT Class1Object::QueryInterface(REFIID iid, void** out) {
     AddRef();
     return S_OK;
   }
+  if (iid == IID_ISupportErrorInfo) {
+    *out = static_cast<ISupportErrorInfo*>(this);
+    AddRef();
+    return S_OK;
+  }
   *out = nullptr;
   return E_NOINTERFACE;
 }
@@ -93,6 +91,8 @@ ULONG Class1Object::Release() {
   if (left == 0) delete this;
   return left;
 }
+
+HRESULT Class1Object::InterfaceSupportsErrorInfo(REFIID iid) { return iid == IID__Class1 ? S_OK : S_FALSE; }
 
 HRESULT Class1Object::Class_Initialize() {
   return guarded([&] { class1_.Class_Initialize(); });

@@ -8,8 +8,9 @@
 namespace pellam::win {
 
 // A host's Class1: the dual interface over the core's Class1. It holds nothing but its
-// reference count; every instance of the process talks to the one shared session.
-class Class1Object final : public _Class1 {
+// reference count; every instance of the process talks to the one shared session. Early-bound
+// hosts learn from ISupportErrorInfo that a failed member left its text in the error info.
+class Class1Object final : public _Class1, public ISupportErrorInfo {
  public:
   Class1Object();
   ~Class1Object();
@@ -19,6 +20,8 @@ class Class1Object final : public _Class1 {
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override;
   ULONG STDMETHODCALLTYPE AddRef() override;
   ULONG STDMETHODCALLTYPE Release() override;
+
+  HRESULT STDMETHODCALLTYPE InterfaceSupportsErrorInfo(REFIID iid) override;
 
   HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
   HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID lcid, ITypeInfo** info) override;

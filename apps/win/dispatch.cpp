@@ -35,6 +35,7 @@ constexpr Member kMembers[] = {
     {L"New_KX_Job_Display_Board_SetUp", 0, VT_EMPTY},
 };
 constexpr int kMemberCount = static_cast<int>(std::size(kMembers));
+constexpr UINT kMostArguments = 2;
 
 // Arguments converted to the member's type, handed back to the host's variables afterwards.
 class Arguments {
@@ -84,8 +85,8 @@ class Arguments {
     }
   }
 
-  VARIANT values[2];
-  VARIANT* sources[2] = {};
+  VARIANT values[kMostArguments];
+  VARIANT* sources[kMostArguments] = {};
 };
 
 HRESULT callMember(Class1Object& o, int index, VARIANT* a, VARIANT& result) {

@@ -1,6 +1,9 @@
 #include "unattended_host.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <iterator>
+#include <utility>
 #include <cstdlib>
 #include <fstream>
 
@@ -34,14 +37,13 @@ void UnattendedHost::read(const std::string& answersFile) {
       if (words.empty()) continue;
       const std::string& command = words[0].text;
       if (command == "answer") {
+        static const std::pair<const char*, ui::Answer> kWords[] = {
+            {"Yes", ui::Answer::Yes}, {"No", ui::Answer::No}, {"OK", ui::Answer::OK}, {"Cancel", ui::Answer::Cancel}};
         for (std::size_t i = 1; i < words.size(); ++i) {
-          const std::string& w = words[i].text;
-          const ui::Answer answer = w == "Yes" ? ui::Answer::Yes
-                                    : w == "No" ? ui::Answer::No
-                                    : w == "OK" ? ui::Answer::OK
-                                    : w == "Cancel" ? ui::Answer::Cancel
-                                                    : throw ScriptError{"bad answer " + w};
-          platform_.queueAnswer(answer, w, number);
+          const auto* word = std::find_if(std::begin(kWords), std::end(kWords),
+                                          [&](const auto& w) { return words[i].text == w.first; });
+          if (word == std::end(kWords)) throw ScriptError{"bad answer " + words[i].text};
+          platform_.queueAnswer(word->second, words[i].text, number);
         }
       } else if (command == "choose" && words.size() == 2) {
         platform_.queuePath(words[1].text, number);

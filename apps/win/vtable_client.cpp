@@ -82,6 +82,18 @@ int members(const std::wstring& folder) {
   say("Return_FileName_Path \"" + pellam::win::utf8(result) + "\"");
   SysFreeString(result);
 
+  // A question nobody answers fails the call; the text waits in the error info.
+  Text foreign(L"C:\\pellam\\members.vbs");
+  const HRESULT failed = o->Product_Type(&foreign.value, &type);
+  IErrorInfo* error = nullptr;
+  BSTR description = nullptr;
+  if (GetErrorInfo(0, &error) == S_OK) {
+    error->GetDescription(&description);
+    error->Release();
+  }
+  say("Product_Type unanswered " + hex(failed) + " " + pellam::win::utf8(description));
+  SysFreeString(description);
+
   o->Unload_Pellam_Form(&empty);
   o->Release();
   say("DONE");

@@ -13,4 +13,5 @@ ensure_packages() {
 }
 
 BUILD_PACKAGES=(cmake ninja-build g++ make libcurl4-openssl-dev)
-TEST_PACKAGES=(clang libgtest-dev libbenchmark-dev g++-mingw-w64-x86-64 python3-pyftpdlib qt6-base-dev xvfb xauth)
+TEST_PACKAGES=(clang libgtest-dev libbenchmark-dev g++-mingw-w64-x86-64 g++-mingw-w64-i686 mingw-w64-tools libwine-dev
+  python3-pyftpdlib qt6-base-dev xvfb xauth)

@@ -1,16 +1,17 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds and runs every test: the Windows build of the core and
-# pellam first (nothing POSIX-only may creep in), then g++ with -Werror, then clang under
-# AddressSanitizer and UndefinedBehaviorSanitizer.
+# Installs what is missing, builds and runs every test: the Windows build of the core,
+# pellam.exe and Pellam.dll first (nothing POSIX-only may creep in), then g++ with -Werror,
+# then clang under AddressSanitizer and UndefinedBehaviorSanitizer, then the COM server
+# under Wine in both widths.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source tools/packages.sh
 ensure_packages "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}"
 
-echo "== MinGW-w64: the core and pellam.exe"
+echo "== MinGW-w64: the core, pellam.exe and Pellam.dll"
 cmake --preset mingw >/dev/null
 cmake --build --preset mingw
-echo "built build/mingw/apps/cli/pellam.exe"
+echo "built build/mingw/apps/cli/pellam.exe and build/mingw/apps/win/Pellam.dll"
 
 echo "== g++: build and test"
 cmake --preset dev >/dev/null
@@ -21,3 +22,6 @@ echo "== clang with AddressSanitizer and UndefinedBehaviorSanitizer"
 cmake --preset clang-sanitize >/dev/null
 cmake --build --preset clang-sanitize
 ctest --preset clang-sanitize
+
+echo "== COM server under Wine"
+bash tools/test-com.sh

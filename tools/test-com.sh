@@ -1,0 +1,126 @@
+#!/usr/bin/env bash
+# The COM server under Wine, both widths: builds Pellam.dll for i686 and x86_64, runs the host
+# scripts of tests/com in a fresh prefix per width and compares what they print, the registry
+# and the files they save with what pellam writes on Linux. 64-bit Wine runs on the host; 32-bit
+# Wine on the host when wine32:i386 installs, else in a Debian chroot (tools/wine-chroot.sh).
+#   tools/test-com.sh [--bench]     --bench also times 100 saves of a maximal job
+set -uo pipefail
+cd "$(dirname "$0")/.."
+source tools/packages.sh
+bench=0
+[ "${1:-}" = --bench ] && bench=1
+t0=$(date +%s)
+ensure_packages cmake ninja-build g++ libcurl4-openssl-dev g++-mingw-w64-i686 g++-mingw-w64-x86-64 mingw-w64-tools \
+  wine wine64 libwine-dev fonts-wine debootstrap || exit 1
+echo "== COM: packages $(( $(date +%s) - t0 )) s"
+
+set -e
+for preset in mingw mingw-i686; do
+  cmake --preset $preset >/dev/null
+  cmake --build --preset $preset
+done
+cmake --preset dev >/dev/null
+cmake --build --preset dev --target pellam $([ $bench = 0 ] || echo pellam_maximal_job)
+set +e
+pellam=$PWD/build/dev/apps/cli/pellam
+
+# No dot in the folder: a job path is cut at its first dot.
+work=$(mktemp -d /tmp/pellam-com-XXXXXX)
+trap '[ -n "${KEEP:-}" ] || rm -rf "$work"' EXIT
+
+# Linux's side: the sample jobs from examples/, each opened and saved again as the host does.
+linux=$work/linux
+mkdir -p "$linux/samples" "$linux/saved"
+for script in examples/*.pellam; do
+  mkdir -p "$linux/$(basename "$script")"
+  (cd "$linux/$(basename "$script")" && "$pellam" run "$OLDPWD/$script" >/dev/null && { [ ! -d samples ] || cp samples/* ../samples/; }) ||
+    echo "example failed: $script"
+done
+for zpd in "$linux"/samples/*.zpd; do
+  name=$(basename "$zpd" .zpd)
+  printf 'clock "2026-11-23 12:00:00"\ncall Initailize_Pellam_Variables_And_Form\ncall ReadZPD_ImageFile "%s"\ncall Create_Pellam_Zpd "%s"\n' \
+    "$zpd" "$linux/saved/$name.txt" | "$pellam" run - >/dev/null
+done
+if [ $bench = 1 ]; then
+  mkdir -p "$work/maximal"
+  build/dev/bench/pellam_maximal_job "$work/maximal" 100 >"$work/linux_save.txt"
+fi
+
+stage() {  # stage WIDTH FOLDER
+  local build=build/mingw
+  [ "$1" = 32 ] && build=build/mingw-i686
+  mkdir -p "$2"
+  cp "$build/apps/win/Pellam.dll" "$build/apps/win/pellam_vtable_client.exe" tests/com/*.{vbs,js,answers,sh,txt} examples/*.vbs "$2/"
+  cp -r "$linux/samples" "$2/"
+  [ $bench = 0 ] || cp -r "$work/maximal" "$2/"
+  [ "$1" = 64 ] || cp build/mingw/apps/win/Pellam.dll "$2/Pellam64.dll"
+}
+
+# wine32:i386 needs i386 libraries of the very versions of the amd64 ones; when apt cannot
+# give them, the architecture is taken away again so the machine's apt stays as it was.
+host_wine32() {
+  dpkg -s wine32:i386 >/dev/null 2>&1 && return 0
+  dpkg --add-architecture i386
+  if apt-get update -qq >/dev/null 2>&1 &&
+     DEBIAN_FRONTEND=noninteractive timeout 900 apt-get install -y -qq --no-install-recommends wine32:i386 >/dev/null 2>&1; then
+    return 0
+  fi
+  dpkg --remove-architecture i386 2>/dev/null
+  apt-get update -qq >/dev/null 2>&1
+  return 1
+}
+
+passed=0 failed=0
+check() {  # check NAME EXPECTED ACTUAL
+  if diff -u "$2" "$3" >"$work/diff" 2>&1; then
+    passed=$((passed + 1))
+  else
+    failed=$((failed + 1))
+    echo "FAILED: $1"
+    head -40 "$work/diff"
+  fi
+}
+
+judge() {  # judge WIDTH RESULTS
+  local width=$1 r=$2 s
+  echo "== COM $width-bit: $(tr '\n' ' ' <"$r/times.txt")"
+  check "$width-bit registry" <(sed "s/{WIDTH}/$width/g" tests/com/expected/registry.out) "$r/registry.txt"
+  for s in members by_value samples form typelib vtable_members vtable_lifetime open-and-save; do
+    check "$width-bit $s" "tests/com/expected/$s.out" "$r/$s.txt"
+  done
+  [ "$width" = 64 ] || check "both widths registered" tests/com/expected/both_widths.out "$r/both_widths.txt"
+  for f in "$linux"/saved/*; do
+    check "$width-bit saved $(basename "$f") as on Linux" <(od -An -tx1 "$f") <(od -An -tx1 "$r/out/windows/$(basename "$f")")
+    # the job saved through the form members is the opened sample itself
+    [ "$(basename "$f")" = Theatre.zpd ] && check "$width-bit form save" <(od -An -tx1 "$f") <(od -An -tx1 "$r/out/form/Shown.zpd")
+  done
+  [ -f "$r/save_maximal.txt" ] && echo "$width-bit COM save: $(head -1 "$r/save_maximal.txt"), Linux: $(cat "$work/linux_save.txt")"
+}
+
+t1=$(date +%s)
+stage 64 "$work/w64"
+echo "== COM 64-bit leg: host Wine"
+bash tests/com/leg.sh 64 "$work/w64"
+judge 64 "$work/w64/results"
+echo "== COM 64-bit minutes: $(( ($(date +%s) - t1 + 59) / 60 ))"
+
+t2=$(date +%s)
+if host_wine32; then
+  echo "== COM 32-bit leg: host Wine (wine32:i386)"
+  stage 32 "$work/w32"
+  bash tests/com/leg.sh 32 "$work/w32"
+  judge 32 "$work/w32/results"
+elif root=$(bash tools/wine-chroot.sh ensure); then
+  echo "== COM 32-bit leg: Debian chroot $root (wine32:i386 would not install on the host)"
+  inside=$(mktemp -d "$root/tmp/pellam-com-XXXXXX")
+  stage 32 "$inside"
+  bash tools/wine-chroot.sh enter bash "/tmp/$(basename "$inside")/leg.sh" 32 "/tmp/$(basename "$inside")"
+  judge 32 "$inside/results"
+  rm -rf "$inside"
+else
+  echo "FAILED: no 32-bit Wine, neither on the host nor in a chroot"
+  failed=$((failed + 1))
+fi
+echo "== COM 32-bit minutes: $(( ($(date +%s) - t2 + 59) / 60 )), all: $(( ($(date +%s) - t0 + 59) / 60 ))"
+echo "$passed passed, $failed failed"
+[ "$failed" = 0 ]

@@ -5,7 +5,6 @@
 #include <string>
 
 #include "component/script/script_error.h"
-#include "host_session.h"
 #include "module.h"
 #include "wide_text.h"
 
@@ -65,7 +64,7 @@ void setEmpty(VARIANT* result) { VariantInit(result); }
 
 }  // namespace
 
-Class1Object::Class1Object() : class1_(hostSession()) { objectCreated(); }
+Class1Object::Class1Object() { objectCreated(); }
 Class1Object::~Class1Object() { objectDestroyed(); }
 
 HRESULT Class1Object::QueryInterface(REFIID iid, void** out) {

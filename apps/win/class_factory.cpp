@@ -3,6 +3,7 @@
 #include <new>
 
 #include "class1_object.h"
+#include "host_session.h"
 #include "module.h"
 #include "pellam.h"
 
@@ -29,15 +30,26 @@ class Class1Factory final : public IClassFactory {
     if (!out) return E_POINTER;
     *out = nullptr;
     if (outer) return CLASS_E_NOAGGREGATION;
-    auto* object = new (std::nothrow) Class1Object;
-    if (!object) return E_OUTOFMEMORY;
-    const HRESULT hr = object->QueryInterface(iid, out);
-    object->Release();
-    return hr;
+    // Making the object makes the session on first use: nothing of that may escape to the host.
+    try {
+      giveHostPlatform();
+      auto* object = new Class1Object;
+      const HRESULT hr = object->QueryInterface(iid, out);
+      object->Release();
+      return hr;
+    } catch (const std::bad_alloc&) {
+      return E_OUTOFMEMORY;
+    } catch (...) {
+      return E_UNEXPECTED;
+    }
   }
   HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) override {
-    lockServer(lock != FALSE);
-    return S_OK;
+    try {
+      lockServer(lock != FALSE);
+      return S_OK;
+    } catch (...) {
+      return E_UNEXPECTED;
+    }
   }
 };
 

@@ -1,27 +1,27 @@
 #include "host_session.h"
 
 #include "component/platform.h"
+#include "component/shared_session.h"
 #include "unattended_host.h"
 #include "win_dialogs.h"
 
 namespace pellam::win {
 
-component::Session& hostSession() {
-  // The platform is made before the session, so it outlives it when the DLL unloads.
+void giveHostPlatform() {
+  // Made before any session, so they outlive every one of them.
   static UnattendedHost* const unattended = UnattendedHost::fromEnvironment();
   static WinDialogs dialogs;
   static component::DesktopViewer notepad;
   static component::SystemClock clock;
-  static component::Session& session = []() -> component::Session& {
-    component::Session& s = component::Session::shared();
+  static const bool given = [] {
     if (unattended) {
-      s.setPlatform(*unattended, *unattended, *unattended);
+      component::SharedSession::setPlatform(*unattended, *unattended, *unattended);
     } else {
-      s.setPlatform(dialogs, notepad, clock);
+      component::SharedSession::setPlatform(dialogs, notepad, clock);
     }
-    return s;
+    return true;
   }();
-  return session;
+  (void)given;
 }
 
 }  // namespace pellam::win

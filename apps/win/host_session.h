@@ -1,11 +1,9 @@
 #pragma once
 
-#include "component/session.h"
-
 namespace pellam::win {
 
-// The process's one session, given Windows' dialogs, or the test answers when the unattended
-// switch is set, the first time a host creates a Class1.
-component::Session& hostSession();
+// Gives the process's shared session its platform, once, before the first Class1 makes it:
+// Windows' dialogs, or the test answers when the unattended switch is set.
+void giveHostPlatform();
 
 }  // namespace pellam::win

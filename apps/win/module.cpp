@@ -1,8 +1,13 @@
 #include "module.h"
 
 #include <atomic>
+#include <memory>
+#include <vector>
+
+#include "component/shared_session.h"
 
 #include "class_factory.h"
+#include "host_session.h"
 
 namespace pellam::win {
 
@@ -28,7 +33,18 @@ std::wstring modulePath() {
 
 void objectCreated() { ++g_objects; }
 void objectDestroyed() { --g_objects; }
-void lockServer(bool lock) { lock ? ++g_locks : --g_locks; }
+// A server lock keeps the shared session as an object does.
+void lockServer(bool lock) {
+  static std::vector<std::unique_ptr<component::SharedSession::User>> held;
+  if (lock) {
+    giveHostPlatform();
+    held.push_back(std::make_unique<component::SharedSession::User>());
+    ++g_locks;
+  } else if (!held.empty()) {
+    held.pop_back();
+    --g_locks;
+  }
+}
 bool canUnload() { return g_objects == 0 && g_locks == 0; }
 
 }  // namespace pellam::win

@@ -62,6 +62,7 @@ TEST(FormScript, RefusesMistakesByNameWithTheLine) {
       {"bytes 2147483647", "error: line 2: bytes 2147483647..2147483647 lie outside the image (0..34001)\n"},
       {"select ComboBox1 99999999999", "error: line 2: bad index 99999999999\n"},
       {"clock \"2026-01-01 +1:00:00\"", "error: line 2: bad time \"2026-01-01 +1:00:00\" (give \"YYYY-MM-DD HH:MM:SS\")\n"},
+      {"clock \"2026-12-31 23:60:00\"", "error: line 2: bad time \"2026-12-31 23:60:00\" (give \"YYYY-MM-DD HH:MM:SS\")\n"},
       // A script's control characters never reach the terminal raw.
       {"frob\x1b[2Jnicate", "error: line 2: unknown command frob\\x1b[2Jnicate\n"},
       {"answer \"\x1b]0;x\x07\"", "error: line 2: bad answer \\x1b]0;x\\x07 (Yes, No, OK or Cancel)\n"},
@@ -73,6 +74,8 @@ TEST(FormScript, RefusesMistakesByNameWithTheLine) {
     EXPECT_EQ(r.err, error) << line;
     EXPECT_EQ(r.out, "") << "nothing after the bad line runs";
   }
+  // The ends of every field are times.
+  EXPECT_EQ(run(kStart + "clock \"2026-01-01 00:00:00\"\nclock \"2026-12-31 23:59:59\"\n").status, 0);
 }
 
 TEST(FormScript, QuestionsNeedQueuedAnswersThatFit) {

@@ -83,7 +83,7 @@ TEST(ControllerAddressTest, AddressesAndNamesWithPortsPassAndNothingElse) {
     const char* host;
     int port;
   };
-  const Case accepted[] = {{"10.0.0.7", "10.0.0.7", 21},     {"10.0.0.7:2121", "10.0.0.7", 2121},
+  const Case accepted[] = {{"10.0.0.7", "10.0.0.7", 21},     {"10.0.0.7:65535", "10.0.0.7", 65535},
                            {"rqc.lobby.example", "rqc.lobby.example", 21}, {"RQC-1:21", "RQC-1", 21},
                            {"::1", "::1", 21},               {"[fe80::1:2]:990", "fe80::1:2", 990},
                            {"[::ffff:10.1.2.3]", "::ffff:10.1.2.3", 21}, {"localhost", "localhost", 21}};

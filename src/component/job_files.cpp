@@ -119,11 +119,13 @@ std::string SaveJobSequence(Session& s, const std::string& jobPath, const std::s
     return {};
   }
   const OperatingMode* mode = operatingMode(s.job.board.OperatingMode);
-  const std::string zpd = files::SaveJob(jobPath, s.inputBank, s.image, s.dialogs(), [&](files::JobFiles& files) {
+  const files::Saved saved = files::SaveJob(jobPath, s.inputBank, s.image, [&](files::JobFiles& files) {
     if (!mode) return;
     if (mode->keepsReport) files.exact(files::kReportSuffix, roomCombineReport(s));
     mode->save(s, files);
   });
+  if (!saved.refusal.empty()) s.dialogs().msgBox(saved.refusal, ui::Buttons::OK);
+  const std::string& zpd = saved.zpd;
   if (!zpd.empty()) {
     created.keep();
     s.currentJobFile = zpd;

@@ -53,23 +53,17 @@ void JobFiles::perInput(const std::string& suffix, int first, const std::functio
   files_.push_back({suffix, std::move(file)});
 }
 
-std::string SaveJob(const std::string& jobPath, int inputBank, image::EepromImage& image, ui::Dialogs& dialogs,
-                    const std::function<void(JobFiles&)>& writeModeFiles) {
-  if (!hasTxtExtension(jobPath)) {
-    dialogs.msgBox("File extension must be .txt", ui::Buttons::OK);
-    return {};
-  }
+Saved SaveJob(const std::string& jobPath, int inputBank, image::EepromImage& image,
+             const std::function<void(JobFiles&)>& writeModeFiles) {
+  if (!hasTxtExtension(jobPath)) return {{}, "File extension must be .txt"};
   JobFiles files(jobPath, inputBank);
   RecoverInterruptedSave(files.prefix());
   if (writeModeFiles) writeModeFiles(files);
 
   const auto bytes = image.bytes();
   files.exact(".zpd", std::string(bytes.begin(), bytes.begin() + image::map::kZpdSize));
-  if (const std::optional<std::string> refused = ReplaceJobFiles(files.prefix(), files.files())) {
-    dialogs.msgBox(*refused, ui::Buttons::OK);
-    return {};
-  }
-  return files.prefix() + ".zpd";
+  if (std::optional<std::string> refused = ReplaceJobFiles(files.prefix(), files.files())) return {{}, *refused};
+  return {files.prefix() + ".zpd", {}};
 }
 
 }  // namespace pellam::files

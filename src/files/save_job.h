@@ -4,9 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "image/eeprom_image.h"
 #include "files/replace_files.h"
-#include "ui/dialogs.h"
+#include "image/eeprom_image.h"
 
 namespace pellam::files {
 
@@ -38,11 +37,17 @@ class JobFiles {
   std::vector<JobFile> files_;
 };
 
+// What a save did: the .zpd it wrote, or why it wrote nothing.
+struct Saved {
+  std::string zpd;
+  std::string refusal;
+};
+
 // Writes the files the operating mode's steps add, packing its tables into the image as they
-// go, then the 32,767-byte image file, all or nothing. Returns the .zpd path, or an empty
-// string when nothing was saved (a message said why).
-std::string SaveJob(const std::string& jobPath, int inputBank, image::EepromImage& image, ui::Dialogs& dialogs,
-                    const std::function<void(JobFiles&)>& writeModeFiles);
+// go, then the 32,767-byte image file, all or nothing. A path whose extension is not "txt" is
+// refused before any step runs.
+Saved SaveJob(const std::string& jobPath, int inputBank, image::EepromImage& image,
+              const std::function<void(JobFiles&)>& writeModeFiles);
 
 // The report a room-combine save writes beside its job.
 inline constexpr const char* kReportSuffix = "UserData.txt";

@@ -57,7 +57,10 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
   return TRUE;
 }
 
-extern "C" HRESULT WINAPI DllCanUnloadNow() { return pellam::win::canUnload() ? S_OK : S_FALSE; }
+// COM unloads the DLL only after a yes: the job goes with it then, and not before.
+extern "C" HRESULT WINAPI DllCanUnloadNow() {
+  return pellam::win::canUnload() && pellam::component::SharedSession::endIfUnused() ? S_OK : S_FALSE;
+}
 
 extern "C" HRESULT WINAPI DllGetClassObject(REFCLSID clsid, REFIID iid, void** out) {
   return pellam::win::getClassObject(clsid, iid, out);

@@ -1,5 +1,6 @@
 #include "component/operating_modes.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 
@@ -105,8 +106,8 @@ const std::array<OperatingMode, 5> kModes = {{
 }  // namespace
 
 const OperatingMode* operatingMode(int number) {
-  return number >= 1 && number <= static_cast<int>(kModes.size()) ? &kModes[static_cast<std::size_t>(number - 1)]
-                                                                   : nullptr;
+  const auto found = std::find_if(kModes.begin(), kModes.end(), [&](const OperatingMode& m) { return m.number == number; });
+  return found != kModes.end() ? &*found : nullptr;
 }
 
 const std::vector<ui::Page UserForm1::*>& modePages() {

@@ -41,9 +41,13 @@ SharedSession::User::User() {
   session_ = s.session.get();
 }
 
-SharedSession::User::~User() {
+SharedSession::User::~User() { --state().users; }
+
+bool SharedSession::endIfUnused() {
   State& s = state();
-  if (--s.users == 0) s.session.reset();
+  if (s.users > 0) return false;
+  s.session.reset();
+  return true;
 }
 
 void SharedSession::setPlatform(ui::Dialogs& dialogs, ui::Shell& shell, ui::Clock& clock) {

@@ -4,10 +4,10 @@
 
 namespace pellam::component {
 
-// The session every Class1 of a process shares, for a face whose objects come and go (a COM
-// server): each object and each server lock is a user; the first user makes the session and
-// the last one to leave ends it, so that a DLL that is unloaded leaves nothing behind. One
-// thread only, the one that made it.
+// The session every Class1 of a process shares, as long as the component is loaded: made for
+// the first user (each object and each server lock is one), kept when the last one leaves, and
+// ended only when the host may unload the component, so that an unloaded DLL leaves nothing
+// behind. One thread only, the one that made it.
 class SharedSession {
  public:
   // A user for as long as it lives.
@@ -29,6 +29,9 @@ class SharedSession {
   static void setPlatform(ui::Dialogs& dialogs, ui::Shell& shell, ui::Clock& clock);
   static void clearPlatform();
   static long users();
+  // Ends the session when nobody uses it, as the component is about to be unloaded; false while
+  // a user is left.
+  static bool endIfUnused();
 };
 
 }  // namespace pellam::component

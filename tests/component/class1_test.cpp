@@ -71,8 +71,8 @@ TEST(Class1FormMembers, UnloadKeepsTheTablesAndLoadHonoursTheHost) {
   EXPECT_FALSE(desk.form().Page2.visible()) << "a reloaded form shows no editor before a confirm";
 }
 
-// Every Class1 of a process shares one session, which ends with the last of its users and
-// answers only the thread that made it.
+// Every Class1 of a process shares one session, which outlives its users until the component
+// may be unloaded and answers only the thread that made it.
 TEST(Class1, EveryInstanceSharesTheProcessSessionWhileOneLives) {
   {
     const SharedSession::User watch;
@@ -86,8 +86,14 @@ TEST(Class1, EveryInstanceSharesTheProcessSessionWhileOneLives) {
     std::thread([&] { EXPECT_THROW(first.Load_User_Form(), std::logic_error); }).join();
   }
   EXPECT_EQ(SharedSession::users(), 0);
+  {
+    const SharedSession::User later;
+    EXPECT_TRUE(later->form.loaded()) << "the job is the component's, not an object's";
+    EXPECT_FALSE(SharedSession::endIfUnused());
+  }
+  EXPECT_TRUE(SharedSession::endIfUnused());
   const SharedSession::User fresh;
-  EXPECT_FALSE(fresh->form.loaded()) << "the last user's leaving ended the session";
+  EXPECT_FALSE(fresh->form.loaded()) << "unloading the component ended the session";
 }
 
 }  // namespace

@@ -97,7 +97,7 @@ TEST(ControllerAddressTest, AddressesAndNamesWithPortsPassAndNothingElse) {
   const char* refused[] = {"",           " 10.0.0.7",        "10.0.0.7 & del *.*", "10.0.0.256", "1.2.3",
                            "10.0.0.7:0", "10.0.0.7:65536",   "host:port",          "a;b",        "$(reboot)",
                            "-host",      "[::1",             "[10.0.0.7]:21",      "1::2::3",    "ftp://10.0.0.7",
-                           "a..b",       "10.0.0.7\r\nquit", "\"x\""};
+                           "a..b",       "10.0.0.7\r\nquit", "\"x\"",     ":"};
   for (const char* text : refused) EXPECT_FALSE(parseControllerAddress(text).has_value()) << text;
 }
 

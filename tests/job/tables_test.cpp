@@ -28,6 +28,7 @@ TEST(TableClears, ChannelEmulationKeepsSlotZeroAndTheOuterRecords) {
   EXPECT_EQ(table->records[0].ChannelCount, 9) << "record 0 is left";
   EXPECT_EQ(table->records[33].Channels[5], 9) << "record 33 is left";
   EXPECT_EQ(table->records[32].Channels[5], 0);
+  EXPECT_EQ(table->records[1].Channels[5], 0) << "the first input is cleared too";
 }
 
 TEST(TableClears, PresetEmulationKeepsTheLastSlots) {

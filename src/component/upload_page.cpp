@@ -87,7 +87,7 @@ UploadPage::Result UploadPage::upload(const Order& order) {
       return files::UploadOutcome{false, {}, {"RQC Connection Time Out"}};
     }
   };
-  auto blink = [this, last = std::chrono::steady_clock::now()]() mutable {
+  auto blink = [last = std::chrono::steady_clock::now()]() mutable {
     if (const auto now = std::chrono::steady_clock::now(); now - last >= kBlink) {
       last = now;
       return true;

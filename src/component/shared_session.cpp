@@ -58,11 +58,6 @@ void SharedSession::setPlatform(ui::Dialogs& dialogs, ui::Shell& shell, ui::Cloc
   if (s.session) s.session->setPlatform(dialogs, shell, clock);
 }
 
-void SharedSession::clearPlatform() {
-  State& s = state();
-  setPlatform(s.fallback.dialogs, s.fallback.shell, s.fallback.clock);
-}
-
 long SharedSession::users() { return state().users; }
 
 }  // namespace pellam::component

@@ -25,9 +25,8 @@ class SharedSession {
   };
 
   // What a new session is given, and the live one from now on: the face's dialogs, viewer and
-  // clock. A face that goes away takes them back with clearPlatform.
+  // clock, which must outlive the session.
   static void setPlatform(ui::Dialogs& dialogs, ui::Shell& shell, ui::Clock& clock);
-  static void clearPlatform();
   static long users();
   // Ends the session when nobody uses it, as the component is about to be unloaded; false while
   // a user is left.

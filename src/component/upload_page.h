@@ -52,7 +52,6 @@ class UploadPage {
   std::function<void()> keepResponsive;
   // Whether the controller confirmed it took every byte of the last upload.
   bool lastCompleted = false;
-  bool busy() const { return busy_; }
 
  private:
   std::string imageToSend() const;

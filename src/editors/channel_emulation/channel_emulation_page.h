@@ -39,11 +39,9 @@ class ChannelEmulationPage {
   std::int16_t SelectedChannelOne = 0;
   std::int16_t SelectedChannelTwo = 0;
   bool ListRefreshing = false;
+ private:
   // What CommandButton19 does next; its caption is drawn from this.
   enum class LevelOneButton { AddChannels, ChangeLevel };
-  LevelOneButton levelOneButton() const { return levelOneButton_; }
-
- private:
   void setLevelOneButton(LevelOneButton mode);
   void chooseInput();
   void chooseFirstChannel();

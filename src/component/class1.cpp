@@ -4,8 +4,6 @@
 #include "component/job_files.h"
 #include "component/session.h"
 #include "component/start_up.h"
-#include "files/file_type.h"
-#include "files/job_paths.h"
 
 namespace pellam::component {
 
@@ -20,7 +18,7 @@ Session& Class1::session() const {
 void Class1::Class_Initialize() {}
 
 std::int16_t Class1::Product_Type(std::string& TempFileString) {
-  return files::CheckFileType(TempFileString, session().image, session().dialogs());
+  return CheckFileType(session(), TempFileString);
 }
 
 void Class1::ReadZPD_ImageFile(std::string& TempString) { OpenJobSequence(session(), TempString); }
@@ -38,7 +36,7 @@ std::string Class1::Return_File_Name(std::string& TempFilePath, std::string& Tem
 }
 
 std::string Class1::Return_Dir_Path(std::string& TempFilePath) {
-  return files::FolderCheck(TempFilePath, files::MissingFolder::Refuse, session().dialogs());
+  return FolderCheck(session(), TempFilePath, MissingFolder::Refuse);
 }
 
 void Class1::Initailize_Pellam_Variables_And_Form() { component::Initailize_Pellam_Variables_And_Form(session()); }

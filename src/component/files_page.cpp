@@ -52,7 +52,7 @@ void FilesPage::OpenChosen() {
     s_.dialogs().msgBox("No File Selected", ui::Buttons::OK);
     return;
   }
-  if (files::CheckFileType(path, s_.image, s_.dialogs()) == 1) OpenJobSequence(s_, path);
+  if (CheckFileType(s_, path) == 1) OpenJobSequence(s_, path);
 }
 
 }  // namespace pellam::component

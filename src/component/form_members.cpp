@@ -6,7 +6,7 @@ namespace pellam::component {
 
 void LoadUserForm(Session& s) {
   s.form.load();
-  s.remoteCommandsPage.PrepareControls();
+  for (ui::EditorPage* page : s.editorPages()) page->formLoaded();
   s.form.CommandButton17.setVisible(false);
   s.form.Frame23.setVisible(false);
   s.form.Frame28.setVisible(false);
@@ -18,11 +18,7 @@ void LoadUserForm(Session& s) {
 void UnloadUserForm(Session& s) {
   s.form.unload();
   s.job.board = job::BoardSetup{};
-  s.channelEmulationPage.reset();
-  s.presetEmulationPage.reset();
-  s.roomLinkPage.reset();
-  s.stationLinkPage.reset();
-  s.roomCombinePage.reset();
+  for (ui::EditorPage* page : s.editorPages()) page->reset();
 }
 
 void ShowHideUserForm(Session& s, bool show) {

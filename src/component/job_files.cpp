@@ -5,8 +5,9 @@
 #include "component/operating_modes.h"
 #include "component/start_up.h"
 #include "editors/room_combine/views.h"
-#include "files/room_combine_report.h"
+#include "files/file_type.h"
 #include "files/job_paths.h"
+#include "files/room_combine_report.h"
 #include "files/open_job.h"
 #include "files/save_job.h"
 #include "image/clear.h"
@@ -86,11 +87,11 @@ void decodeRegions(Session& s, int mode) {
   ui::Dialogs& d = s.dialogs();
   ui::trap(d, "Error M11Trap3", [&] {
     image::DecodeRemoteCommands(img, s.job.remoteCommands);
-    s.remoteCommandsPage.ListDecoded();
+    s.remoteCommandsPage.listDecoded();
   });
   ui::trap(d, "Error M13Trap2", [&] {
     image::DecodeMasterInputs(img, s.job.masterInputs);
-    s.masterInputsPage.ListDecoded();
+    s.masterInputsPage.listDecoded();
   });
   if (const OperatingMode* m = operatingMode(mode)) m->decode(s);
 }
@@ -111,10 +112,32 @@ std::string roomCombineReport(Session& s) {
 
 }  // namespace
 
+std::int16_t CheckFileType(Session& s, const std::string& path) {
+  switch (files::ReadProductType(path, s.image)) {
+    case files::FileKind::PellamJob: return 1;
+    case files::FileKind::OtherKind:
+      return s.dialogs().msgBox("Select File is not Pellam Type Continue Loading?", ui::Buttons::YesNo) == ui::Answer::Yes
+                 ? 1
+                 : -1;
+    case files::FileKind::Unreadable: break;
+  }
+  s.dialogs().msgBox("Cannot Open File: " + path, ui::Buttons::OK);
+  return -1;
+}
+
+std::string FolderCheck(Session& s, const std::string& jobPath, MissingFolder missing, files::CreatedFolders* created) {
+  const std::string folder = files::folderPart(jobPath);
+  if (folder.empty()) return {};
+  if (files::isFolder(folder)) return folder;
+  if (missing == MissingFolder::Refuse) return {};
+  if (s.dialogs().msgBox("Folder not Found! Create Folder?", ui::Buttons::YesNo) != ui::Answer::Yes) return {};
+  return files::CreateFolderPath(folder, created) ? folder : std::string{};
+}
+
 std::string SaveJobSequence(Session& s, const std::string& jobPath, const std::string& noFolder) {
   packSettings(s);
   files::CreatedFolders created;
-  if (files::FolderCheck(jobPath, files::MissingFolder::OfferToCreate, s.dialogs(), &created).empty()) {
+  if (FolderCheck(s, jobPath, MissingFolder::OfferToCreate, &created).empty()) {
     s.dialogs().msgBox(noFolder, ui::Buttons::OK);
     return {};
   }
@@ -154,7 +177,7 @@ void DecodeImage(Session& s) {
     } else {
       job::ClearInputNumbering(s.job.inputNumbering);
     }
-    s.inputNumberingPage.ListDecoded();
+    s.inputNumberingPage.listDecoded();
   });
   ui::trap(d, "Error M2Trap30", [&] {
     s.navigation.showModePage();

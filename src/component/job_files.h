@@ -3,10 +3,22 @@
 #include <string>
 
 #include "component/session.h"
+#include "files/job_paths.h"
 
 // The save and open sequences of a whole session: board values, packing, folders, files,
 // decoding and the form's display of what was opened.
 namespace pellam::component {
+
+// Reads the product-type byte of a file into the image and tells whether to open the file:
+// 1 go on, -1 stop. A file of another kind is opened only when the person says so.
+std::int16_t CheckFileType(Session& session, const std::string& path);
+
+enum class MissingFolder { Refuse, OfferToCreate };
+
+// The folder of a job path when it exists or was created on request; empty otherwise. The
+// levels it creates are added to `created`.
+std::string FolderCheck(Session& session, const std::string& jobPath, MissingFolder missing,
+                        files::CreatedFolders* created = nullptr);
 
 // Packs the board setup and the settings, checks the job's folder (offering to create it),
 // and saves the files; `noFolder` is the message when there is no folder to save into.

@@ -29,7 +29,7 @@ void roomLinkFile(Session& s, files::JobFiles& files, const std::string& suffix)
 
 void decodeRoomLink(Session& s, int mode) {
   image::DecodeRoomLink(s.image, s.job.roomLink);
-  s.roomLinkPage.ListDecoded(mode);
+  s.roomLinkPage.listDecodedFor(mode);
 }
 
 const std::array<OperatingMode, 5> kModes = {{
@@ -44,7 +44,7 @@ const std::array<OperatingMode, 5> kModes = {{
      },
      [](Session& s) {
        image::DecodeChannelEmulation(s.image, s.job.channelEmulation);
-       s.channelEmulationPage.ListDecoded();
+       s.channelEmulationPage.listDecoded();
      },
      listChannelEmulation},
     {2, &UserForm1::Page3, nullptr, false, [](Session& s, files::JobFiles& files) { roomLinkFile(s, files, ".txt"); },
@@ -63,9 +63,9 @@ const std::array<OperatingMode, 5> kModes = {{
      [](Session& s) {
        decodeRoomLink(s, 3);
        image::DecodeRoomCombine(s.image, s.job.roomCombine);
-       s.roomCombinePage.ListDecoded();
+       s.roomCombinePage.listDecoded();
        image::DecodeStationsFormA(s.image, s.job.stationLink, numbering(s));
-       s.stationLinkPage.ListDecoded();
+       s.stationLinkPage.listDecoded();
      },
      [](std::ostream& out, const job::Job& job) {
        listRoomLinks(out, job);
@@ -80,7 +80,7 @@ const std::array<OperatingMode, 5> kModes = {{
      },
      [](Session& s) {
        image::DecodePresetEmulation(s.image, s.job.presetEmulation);
-       s.presetEmulationPage.ListDecoded();
+       s.presetEmulationPage.listDecoded();
      },
      listPresets},
     {5, &UserForm1::Page6, nullptr, false,
@@ -93,8 +93,8 @@ const std::array<OperatingMode, 5> kModes = {{
      [](Session& s) {
        decodeRoomLink(s, 5);
        image::DecodeStationsFormB(s.image, s.job.stationLink, s.job.stationPersonality, numbering(s));
-       s.stationLinkPage.ListDecoded();
-       s.stationPersonalityPage.ListDecoded();
+       s.stationLinkPage.listDecoded();
+       s.stationPersonalityPage.listDecoded();
      },
      [](std::ostream& out, const job::Job& job) {
        listRoomLinks(out, job);

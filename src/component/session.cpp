@@ -26,6 +26,11 @@ Session::Session(ui::Dialogs& dialogs, ui::Shell& shell, ui::Clock& clock)
   form.setErrorReport([this](const std::string& what) { platform_.msgBox("Unexpected Error: " + what, ui::Buttons::OK); });
 }
 
+std::array<ui::EditorPage*, 10> Session::editorPages() {
+  return {&masterInputsPage, &channelEmulationPage, &presetEmulationPage, &roomLinkPage, &stationLinkPage,
+          &stationPersonalityPage, &roomCombinePage, &namingPage, &remoteCommandsPage, &inputNumberingPage};
+}
+
 bool Session::modified() const { return !job::sameContent(job, unmodified_); }
 
 void Session::checkThread() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <functional>
 #include <string>
 #include <thread>
@@ -92,6 +93,9 @@ class Session {
   std::thread::id owner_ = std::this_thread::get_id();
 
  public:
+  // Every editor page, for what a job's life asks of each alike.
+  std::array<ui::EditorPage*, 10> editorPages();
+
   PageNavigation navigation;
   setup::BoardSetupPage boardPage;
   setup::MasterInputsPage masterInputsPage;

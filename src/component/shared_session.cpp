@@ -58,6 +58,12 @@ void SharedSession::setPlatform(ui::Dialogs& dialogs, ui::Shell& shell, ui::Cloc
   if (s.session) s.session->setPlatform(dialogs, shell, clock);
 }
 
+void SharedSession::withdrawPlatform(const ui::Dialogs& dialogs) {
+  State& s = state();
+  if (s.dialogs != &dialogs) return;
+  setPlatform(s.fallback.dialogs, s.fallback.shell, s.fallback.clock);
+}
+
 long SharedSession::users() { return state().users; }
 
 }  // namespace pellam::component

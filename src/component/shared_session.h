@@ -27,6 +27,9 @@ class SharedSession {
   // What a new session is given, and the live one from now on: the face's dialogs, viewer and
   // clock, which must outlive the session.
   static void setPlatform(ui::Dialogs& dialogs, ui::Shell& shell, ui::Clock& clock);
+  // A face going away takes its platform back: the session tells the error stream and answers
+  // carefully until another face gives its own. Another face's platform is left alone.
+  static void withdrawPlatform(const ui::Dialogs& dialogs);
   static long users();
   // Ends the session when nobody uses it, as the component is about to be unloaded; false while
   // a user is left.

@@ -29,11 +29,6 @@ void fillRemoteCommandLists(ui::UserForm1& f) {
   f.ListBox17.setItems(lists::remoteButtons());
 }
 
-// A new job shows no line of the tables it empties.
-void clearLists(std::initializer_list<ui::ListBox*> lists) {
-  for (ui::ListBox* list : lists) list->clear();
-}
-
 }  // namespace
 
 void fillNetIdLists(ui::UserForm1& f, NetIdChoice choice) {
@@ -61,18 +56,13 @@ void Initailize_Pellam_Variables_And_Form(Session& s) {
     job.remoteCommands.RemoteMode = 0;
   });
   ui::trap(d, "Error module LoadRefreshRates", [&] { s.boardPage.fillRefreshRates(); });
-  ui::trap(d, "Error module ClearPresetEmulation", [&] {
-    job::ClearPresetEmulation(job.presetEmulation);
-    clearLists({&f.ListBox5, &f.ListBox10});
-  });
-  ui::trap(d, "Error module ClearChannelEmulation", [&] {
-    job::ClearChannelEmulation(job.channelEmulation);
-    clearLists({&f.ListBox8, &f.ListBox9});
-  });
-  ui::trap(d, "Error module ClearMasterInputs", [&] { s.masterInputsPage.Clear(); });
+  ui::trap(d, "Error module ClearPresetEmulation", [&] { s.presetEmulationPage.clear(); });
+  ui::trap(d, "Error module ClearChannelEmulation", [&] { s.channelEmulationPage.clear(); });
+  ui::trap(d, "Error module ClearMasterInputs", [&] { s.masterInputsPage.clear(); });
   ui::trap(d, "Error module ClearEEpromImage", [&] {
     image::ClearEEpromImage(s.image, job);
-    clearLists({&f.ListBox1, &f.ListBox2, &f.ListBox4, &f.ListBox6});
+    s.roomCombinePage.clear();
+    s.roomLinkPage.clear();
   });
   ui::trap(d, "Error module LoadBoardSetupLists", [&] {
     s.boardPage.fillBoardLists();
@@ -103,15 +93,12 @@ void Initailize_Pellam_Variables_And_Form(Session& s) {
   });
   ui::trap(d, "Error module HideModePages", [&] { s.navigation.hideModePages(); });
   ui::trap(d, "Error module ClearStationLink", [&] {
-    job::ClearStationLink(job.stationLink);
-    s.stationLinkPage.reset();
-    // The personalities go with the stations: a new job keeps none of the last one's.
-    job.stationPersonality = {};
-    clearLists({&f.ListBox3, &f.ListBox7});
+    s.stationLinkPage.clear();
+    s.stationPersonalityPage.clear();
   });
   ui::trap(d, "Error module LoadRemoteCommandLists", [&] { fillRemoteCommandLists(f); });
-  ui::trap(d, "Error module ClearRemoteCommands", [&] { s.remoteCommandsPage.Clear(); });
-  ui::trap(d, "Error module ClearInputNumbering", [&] { s.inputNumberingPage.Clear(); });
+  ui::trap(d, "Error module ClearRemoteCommands", [&] { s.remoteCommandsPage.clear(); });
+  ui::trap(d, "Error module ClearInputNumbering", [&] { s.inputNumberingPage.clear(); });
   s.markUnmodified();
 }
 

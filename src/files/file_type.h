@@ -5,13 +5,14 @@
 #include <vector>
 
 #include "image/eeprom_image.h"
-#include "ui/dialogs.h"
 
 namespace pellam::files {
 
-// Reads the product-type byte of an image file into the image and tells whether to open the
-// file: 1 go on, -1 stop. A file of another kind is opened only when the person says so.
-std::int16_t CheckFileType(const std::string& path, image::EepromImage& image, ui::Dialogs& dialogs);
+enum class FileKind { Unreadable, PellamJob, OtherKind };
+
+// Reads the product-type byte of an image file into the image (0 when the file is too short to
+// hold it) and tells what the file is; a save of it that was cut off is settled first.
+FileKind ReadProductType(const std::string& path, image::EepromImage& image);
 
 // A file that is to go to a station: its bytes when it is exactly a job image of this board,
 // otherwise why not, in the words every face shows.

@@ -30,26 +30,14 @@ std::string folderPart(const std::string& jobPath) {
   return {};
 }
 
-namespace {
 bool isFolder(const std::string& folder) {
   std::error_code ec;
   return !folder.empty() && fs::is_directory(fsPath(folder), ec);
 }
-}  // namespace
 
 CreatedFolders::~CreatedFolders() {
   std::error_code ec;
   for (auto level = levels_.rbegin(); level != levels_.rend(); ++level) fs::remove(*level, ec);
-}
-
-std::string FolderCheck(const std::string& jobPath, MissingFolder missing, ui::Dialogs& dialogs,
-                        CreatedFolders* created) {
-  const std::string folder = folderPart(jobPath);
-  if (folder.empty()) return {};
-  if (isFolder(folder)) return folder;
-  if (missing == MissingFolder::Refuse) return {};
-  if (dialogs.msgBox("Folder not Found! Create Folder?", ui::Buttons::YesNo) != ui::Answer::Yes) return {};
-  return CreateFolderPath(folder, created) ? folder : std::string{};
 }
 
 // Each level that ends in a separator: a last part without one is not a folder of the job.

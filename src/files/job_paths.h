@@ -4,8 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "ui/dialogs.h"
-
 namespace pellam::files {
 
 // Paths are kept as UTF-8 text; these turn them into the file system's paths and back.
@@ -18,8 +16,6 @@ bool isSeparator(char c);
 // The folder part of a job path: cut after the last separator when the path holds a "."
 // (anywhere, so a dot in a folder name counts too); a path without a dot is a folder itself.
 std::string folderPart(const std::string& jobPath);
-
-enum class MissingFolder { Refuse, OfferToCreate };
 
 // Folder levels a save created, removed again (when still empty) unless the save kept them:
 // a refused save leaves no folder behind.
@@ -40,10 +36,7 @@ class CreatedFolders {
   std::vector<std::filesystem::path> levels_;
 };
 
-// The folder of a job path when it exists or was created on request; empty otherwise. The
-// levels it creates are added to `created`.
-std::string FolderCheck(const std::string& jobPath, MissingFolder missing, ui::Dialogs& dialogs,
-                        CreatedFolders* created = nullptr);
+bool isFolder(const std::string& folder);
 
 // Creates each missing level of a folder path; false, with nothing left created, when a level
 // could not be made.

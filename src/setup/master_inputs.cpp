@@ -44,7 +44,7 @@ void MasterInputsPage::fillLists() {
   form_.ComboBox112.setItems(ui::lists::withBlank({kActions.begin(), kActions.end()}));
 }
 
-void MasterInputsPage::Clear() {
+void MasterInputsPage::clear() {
   job::ClearMasterInputs(inputs_);
   inputs_.Mode = 0;
   inputs_.Companion = 0;
@@ -52,7 +52,7 @@ void MasterInputsPage::Clear() {
   relist();
 }
 
-void MasterInputsPage::ListDecoded() {
+void MasterInputsPage::listDecoded() {
   form_.ComboBox64.setListIndex(inputs_.Mode < form_.ComboBox64.count() ? inputs_.Mode : -1);
   relist();
 }

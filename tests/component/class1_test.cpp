@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <stdexcept>
 #include <thread>
 
@@ -94,6 +95,23 @@ TEST(Class1, EveryInstanceSharesTheProcessSessionWhileOneLives) {
   EXPECT_TRUE(SharedSession::endIfUnused());
   const SharedSession::User fresh;
   EXPECT_FALSE(fresh->form.loaded()) << "unloading the component ended the session";
+}
+
+// A face that goes away leaves no dangling dialogs behind; withdrawing another face's does nothing.
+TEST(Class1, AFaceTakesItsPlatformBackWhenItGoes) {
+  std::ostringstream shown, other;
+  UnattendedDialogs face(shown), stranger(other);
+  NoViewer viewer;
+  SystemClock clock;
+  const SharedSession::User user;
+  SharedSession::setPlatform(face, viewer, clock);
+  SharedSession::withdrawPlatform(stranger);
+  user->dialogs().msgBox("while the face is here", ui::Buttons::OK);
+  SharedSession::withdrawPlatform(face);
+  user->dialogs().msgBox("after it went", ui::Buttons::OK);
+  EXPECT_NE(shown.str().find("while the face is here"), std::string::npos);
+  EXPECT_EQ(shown.str().find("after it went"), std::string::npos);
+  EXPECT_TRUE(other.str().empty());
 }
 
 }  // namespace

@@ -96,7 +96,7 @@ TEST_F(PresetEmulationPageTest, DecodedJobShowsItsFirstInputWithEntries) {
   image::PackPresetEmulation(image, table);
   desk.startUp();
   image::DecodePresetEmulation(image, table);
-  desk.session().presetEmulationPage.ListDecoded();
+  desk.session().presetEmulationPage.listDecoded();
   EXPECT_EQ(f.ComboBox42.listIndex(), 6);
   EXPECT_EQ(f.ListBox10.items(), Lines{"T6600 LCD  NetId: 9  Personality  0  Button : Release"});
   EXPECT_EQ(desk.shown(), Lines{});

@@ -31,7 +31,7 @@ TEST(RoomCombinePageTest, TheAllViewFollowsTablesChangedElsewhere) {
   EXPECT_EQ(f.ListBox1.items(), (Lines{"Room 5,  Group 3, Channel:2048", "Room 1,  Group 1, Channel:4"}));
 
   desk.job().roomCombine.records[4].CombineRoom = 2;
-  desk.session().roomCombinePage.ListDecoded();
+  desk.session().roomCombinePage.listDecoded();
   EXPECT_EQ(f.ListBox1.item(0), "Room 2,  Group 1, Channel:4");
 }
 

@@ -49,7 +49,7 @@ TEST_F(StationLinkPageTest, DecodedStationsAreListedWithTheirOwnTypes) {
   image::EepromImage img;
   image::PackStationsFormB(img, saved, none);
   image::DecodeStationsFormB(img, table, desk.job().stationPersonality, nullptr);
-  desk.session().stationLinkPage.ListDecoded();
+  desk.session().stationLinkPage.listDecoded();
   EXPECT_EQ(f.ListBox3.items(), (Lines{"Room: 6 Station Type Not Found  NetId: 2", "Room: 4 T6600 LCD  NetId: 21"}));
 }
 

@@ -99,8 +99,8 @@ void buildJob(Desk& desk, int mode) {
         job.board.FurtherOption = 9;
       }
       // Tables filled by hand are listed as an opened job lists them: the report prints the list.
-      desk.session().roomLinkPage.ListDecoded(mode);
-      desk.session().stationLinkPage.ListDecoded();
+      desk.session().roomLinkPage.listDecodedFor(mode);
+      desk.session().stationLinkPage.listDecoded();
   }
 }
 

@@ -117,7 +117,13 @@ void ChannelEmulationPage::setLevelOneButton(LevelOneButton mode) {
   form_.CommandButton19.setCaption(mode == LevelOneButton::AddChannels ? kAddChannels : kActionOneLevel);
 }
 
-void ChannelEmulationPage::ListDecoded() {
+void ChannelEmulationPage::clear() {
+  job::ClearChannelEmulation(table_);
+  form_.ListBox8.clear();
+  form_.ListBox9.clear();
+}
+
+void ChannelEmulationPage::listDecoded() {
   int first = 1;
   for (int input = 1; input <= kActionTwoOffset; ++input) {
     if (recordAt(table_, input).InputNumber != 0) {

@@ -5,6 +5,7 @@
 
 #include "job/tables.h"
 #include "ui/dialogs.h"
+#include "ui/editor_page.h"
 #include "ui/user_form.h"
 
 namespace pellam::editors::channel_emulation {
@@ -17,16 +18,16 @@ void DeleteEmulatedChannel(job::ChannelEmulationTable& table, ui::ListBox& one, 
                            int input);
 
 // Presenter of Page2: an input's two actions, their fade rates, channels and levels.
-class ChannelEmulationPage {
+class ChannelEmulationPage final : public ui::EditorPage {
  public:
   ChannelEmulationPage(ui::UserForm1& form, job::ChannelEmulationTable& table, ui::Dialogs& dialogs);
-  ChannelEmulationPage(const ChannelEmulationPage&) = delete;
-  ChannelEmulationPage& operator=(const ChannelEmulationPage&) = delete;
 
   // The editor state the form keeps, back to 0 as when the form is created.
-  void reset();
+  void reset() override;
+  // A new job: no record, no line.
+  void clear() override;
   // Shows the first input in use of a decoded table (input 1 when none is).
-  void ListDecoded();
+  void listDecoded() override;
 
   // The editor state, named as the form has always named it.
   std::int16_t SelectedInput = 0;

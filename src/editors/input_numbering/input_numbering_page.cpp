@@ -73,12 +73,12 @@ void InputNumberingPage::fillLists() {
   form_.ComboBox111.setItems(ui::lists::rooms());
 }
 
-void InputNumberingPage::Clear() {
+void InputNumberingPage::clear() {
   job::ClearInputNumbering(table_);
   form_.ListBox101.clear();
 }
 
-void InputNumberingPage::ListDecoded() { relist(); }
+void InputNumberingPage::listDecoded() { relist(); }
 
 void InputNumberingPage::relist() {
   std::vector<std::string> lines;
@@ -113,7 +113,7 @@ void InputNumberingPage::clearAll() {
     return;
   }
   if (dialogs_.msgBox("Clear All Input Numbers", ui::Buttons::YesNo) != ui::Answer::Yes) return;
-  Clear();
+  clear();
 }
 
 }  // namespace pellam::editors::input_numbering

@@ -4,6 +4,7 @@
 
 #include "job/tables.h"
 #include "ui/dialogs.h"
+#include "ui/editor_page.h"
 #include "ui/user_form.h"
 
 namespace pellam::editors::input_numbering {
@@ -16,18 +17,16 @@ bool NumberInput(job::InputNumberTable& table, ui::Dialogs& dialogs, int input, 
 std::string numberingLine(const job::InputNumberRecord& record);
 
 // Presenter of Page9: which room each input reports, one line per numbered input.
-class InputNumberingPage {
+class InputNumberingPage final : public ui::EditorPage {
  public:
   InputNumberingPage(ui::UserForm1& form, job::InputNumberTable& table, ui::Dialogs& dialogs);
-  InputNumberingPage(const InputNumberingPage&) = delete;
-  InputNumberingPage& operator=(const InputNumberingPage&) = delete;
 
   // The input and room lists, filled at start-up with the other choice lists.
-  void fillLists();
+  void fillLists() override;
   // A new job: no input numbered, no line listed.
-  void Clear();
+  void clear() override;
   // Lists the table as an opened image left it.
-  void ListDecoded();
+  void listDecoded() override;
 
  private:
   // The input of the chosen line, 0 when no line is chosen.

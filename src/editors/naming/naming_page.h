@@ -4,6 +4,7 @@
 
 #include "job/tables.h"
 #include "ui/dialogs.h"
+#include "ui/editor_page.h"
 #include "ui/user_form.h"
 
 namespace pellam::editors::naming {
@@ -16,14 +17,12 @@ int SetGroupLabel(job::RoomGroupNames& names, ui::Dialogs& dialogs, const std::s
 void SetRoomName(job::RoomGroupNames& names, const std::string& name, int room, int value);
 
 // Presenter of Page8: labels for rooms and groups, each number labelled once.
-class NamingPage {
+class NamingPage final : public ui::EditorPage {
  public:
   NamingPage(ui::UserForm1& form, job::RoomGroupNames& names, ui::Dialogs& dialogs);
-  NamingPage(const NamingPage&) = delete;
-  NamingPage& operator=(const NamingPage&) = delete;
 
   // The page's number lists, filled at start-up with the other choice lists.
-  void fillLists();
+  void fillLists() override;
 
  private:
   void ListRoomLabel(int room, const std::string& numberText);

@@ -80,7 +80,13 @@ void PresetEmulationPage::reset() {
   ListRefreshing = false;
 }
 
-void PresetEmulationPage::ListDecoded() {
+void PresetEmulationPage::clear() {
+  job::ClearPresetEmulation(table_);
+  form_.ListBox5.clear();
+  form_.ListBox10.clear();
+}
+
+void PresetEmulationPage::listDecoded() {
   for (int input = 1; input <= kLastInput; ++input) {
     if (entriesOf(input) + entriesOf(input + kBoardBankOffset) > 0) {
       form_.ComboBox42.select(input);

@@ -6,21 +6,22 @@
 
 #include "job/tables.h"
 #include "ui/dialogs.h"
+#include "ui/editor_page.h"
 #include "ui/user_form.h"
 
 namespace pellam::editors::preset_emulation {
 
 // Presenter of Page5: the station keys that the inputs of both banks stand in for.
-class PresetEmulationPage {
+class PresetEmulationPage final : public ui::EditorPage {
  public:
   PresetEmulationPage(ui::UserForm1& form, job::PresetEmulationTable& table, ui::Dialogs& dialogs);
-  PresetEmulationPage(const PresetEmulationPage&) = delete;
-  PresetEmulationPage& operator=(const PresetEmulationPage&) = delete;
 
   // The editor state the form keeps, back to nothing chosen as when the form is created.
-  void reset();
+  void reset() override;
+  // A new job: no record, no line.
+  void clear() override;
   // Shows the first input with entries in either bank of a decoded table; none when no input has any.
-  void ListDecoded();
+  void listDecoded() override;
 
   // The editor state, named as the form has always named it.
   std::int16_t SelectedNetId = -1;

@@ -58,7 +58,7 @@ RemoteCommandsPage::RemoteCommandsPage(ui::UserForm1& form, job::RemoteCommandTa
   form_.ListBox19.onClick = [this] { removeChosenLine(); };
 }
 
-void RemoteCommandsPage::Clear() {
+void RemoteCommandsPage::clear() {
   job::ClearRemoteCommands(table_);
   form_.ListBox19.clear();
   form_.Label70.setCaption("");
@@ -67,7 +67,10 @@ void RemoteCommandsPage::Clear() {
   }
 }
 
-void RemoteCommandsPage::PrepareControls() {
+void RemoteCommandsPage::formLoaded() { showMode(); }
+
+// The option of the remote mode in force, and what it enables.
+void RemoteCommandsPage::showMode() {
   const int mode = table_.RemoteMode;
   const std::array<ui::OptionButton*, 3> options = {&form_.OptionButton14, &form_.OptionButton12,
                                                     &form_.OptionButton13};
@@ -85,7 +88,7 @@ void RemoteCommandsPage::PrepareControls() {
   form_.ComboBox70.setEnabled(mode == kButtons);
 }
 
-void RemoteCommandsPage::ListDecoded() {
+void RemoteCommandsPage::listDecoded() {
   int mode = kDisabled;
   int first = 0;
   // Scanned downwards, so that the lowest input with a mode or with entries wins.
@@ -95,13 +98,13 @@ void RemoteCommandsPage::ListDecoded() {
     if (hasEntries(b)) first = input;
   }
   table_.RemoteMode = job::narrow(mode);
-  PrepareControls();
+  showMode();
   form_.ComboBox69.select(first);
 }
 
 void RemoteCommandsPage::chooseMode(int mode) {
   table_.RemoteMode = job::narrow(mode);
-  PrepareControls();
+  showMode();
 }
 
 bool RemoteCommandsPage::refused(bool condition, const char* text) {

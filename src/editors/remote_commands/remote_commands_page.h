@@ -4,26 +4,26 @@
 
 #include "job/tables.h"
 #include "ui/dialogs.h"
+#include "ui/editor_page.h"
 #include "ui/user_form.h"
 
 namespace pellam::editors::remote_commands {
 
 // Presenter of Page7: per input, the stations whose LED or button the input drives.
-class RemoteCommandsPage {
+class RemoteCommandsPage final : public ui::EditorPage {
  public:
   RemoteCommandsPage(ui::UserForm1& form, job::RemoteCommandTable& table, ui::Dialogs& dialogs);
-  RemoteCommandsPage(const RemoteCommandsPage&) = delete;
-  RemoteCommandsPage& operator=(const RemoteCommandsPage&) = delete;
 
   // A new job: no entry, no line, no remote mode chosen.
-  void Clear();
+  void clear() override;
   // When the form is loaded: the option of the remote mode in force and what it enables.
-  void PrepareControls();
+  void formLoaded() override;
   // After an image is opened: the remote mode its blocks were written in, and the first
   // input with entries (none, without a message, when no input has any).
-  void ListDecoded();
+  void listDecoded() override;
 
  private:
+  void showMode();
   void chooseMode(int mode);
   void add();
   bool refused(bool condition, const char* text);

@@ -43,7 +43,9 @@ void RoomCombinePage::reset() {
   allView_.forget();
 }
 
-void RoomCombinePage::ListDecoded() {
+void RoomCombinePage::clear() { form_.ListBox1.clear(); }
+
+void RoomCombinePage::listDecoded() {
   form_.Label38.setCaption("");
   allView_.rebuild(table_, form_.ListBox1);
 }

@@ -6,21 +6,22 @@
 #include "editors/room_combine/views.h"
 #include "job/tables.h"
 #include "ui/dialogs.h"
+#include "ui/editor_page.h"
 #include "ui/user_form.h"
 
 namespace pellam::editors::room_combine {
 
 // Presenter of Page4's room combine: channels by room and group, three views, deletes.
-class RoomCombinePage {
+class RoomCombinePage final : public ui::EditorPage {
  public:
   RoomCombinePage(ui::UserForm1& form, job::RoomCombineTable& table, ui::Dialogs& dialogs);
-  RoomCombinePage(const RoomCombinePage&) = delete;
-  RoomCombinePage& operator=(const RoomCombinePage&) = delete;
 
   // The editor state the form keeps, back to 0 as when the form is created.
-  void reset();
+  void reset() override;
+  // A new job: no line (the table is emptied with the image).
+  void clear() override;
   // Lists the decoded table in the "all" view.
-  void ListDecoded();
+  void listDecoded() override;
 
  private:
   using Field = std::uint16_t job::RoomCombineRecord::*;

@@ -72,9 +72,11 @@ void RoomLinkPage::attachRoomLists(Group& g) {
 
 // Nothing of this editor lives on the form alone: the inputs of groups A and B are their lists'
 // positions, and group C's input and the rooms are module-wide.
-void RoomLinkPage::reset() {}
+void RoomLinkPage::clear() {
+  for (const Group* g : {&a_, &b_, &c_}) g->list.clear();
+}
 
-void RoomLinkPage::ListDecoded(int operatingMode) {
+void RoomLinkPage::listDecodedFor(int operatingMode) {
   switch (operatingMode) {
     case kGroupBMode: relist(b_.list, lineFormatDecoded); break;
     case kGroupCMode: relist(c_.list, lineFormatDecoded); break;

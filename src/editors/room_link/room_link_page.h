@@ -5,6 +5,7 @@
 
 #include "job/tables.h"
 #include "ui/dialogs.h"
+#include "ui/editor_page.h"
 #include "ui/user_form.h"
 
 namespace pellam::editors::room_link {
@@ -17,16 +18,14 @@ inline constexpr std::int16_t kInputAlreadyLinked = 18;
 std::int16_t StoreRoomLink(job::RoomLinkTable& table, int input, int firstRoom, int secondRoom);
 
 // Presenter of the three room-link groups: A on Page6, B on Page3, C on Page4.
-class RoomLinkPage {
+class RoomLinkPage final : public ui::EditorPage {
  public:
   RoomLinkPage(ui::UserForm1& form, job::RoomLinkTable& table, ui::Dialogs& dialogs);
-  RoomLinkPage(const RoomLinkPage&) = delete;
-  RoomLinkPage& operator=(const RoomLinkPage&) = delete;
 
-  // The editor state the form keeps, back to 0 as when the form is created.
-  void reset();
+  // A new job: no line (the table is emptied with the image).
+  void clear() override;
   // Lists the decoded table in the group of the operating mode's page (2: B, 3: C, 5: A).
-  void ListDecoded(int operatingMode);
+  void listDecodedFor(int operatingMode);
 
  private:
   using LineFormat = std::string (*)(const job::RoomLinkRecord&);

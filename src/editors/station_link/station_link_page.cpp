@@ -39,8 +39,14 @@ void StationLinkPage::reset() {
   RoomGate = false;
 }
 
+void StationLinkPage::clear() {
+  job::ClearStationLink(table_);
+  reset();
+  form_.ListBox3.clear();
+}
+
 // Every decoded station is listed, slots 127 and 128 too: the list shows what the file holds.
-void StationLinkPage::ListDecoded() { relist(kSlots - 1, true); }
+void StationLinkPage::listDecoded() { relist(kSlots - 1, true); }
 
 // Taking up a type starts a new link, so the person's room choices count from here on.
 void StationLinkPage::chooseType() {

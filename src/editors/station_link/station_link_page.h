@@ -4,21 +4,22 @@
 
 #include "job/tables.h"
 #include "ui/dialogs.h"
+#include "ui/editor_page.h"
 #include "ui/user_form.h"
 
 namespace pellam::editors::station_link {
 
 // Presenter of the station links on Page6: which station (net id) stands in which room.
-class StationLinkPage {
+class StationLinkPage final : public ui::EditorPage {
  public:
   StationLinkPage(ui::UserForm1& form, job::StationLinkTable& table, ui::Dialogs& dialogs);
-  StationLinkPage(const StationLinkPage&) = delete;
-  StationLinkPage& operator=(const StationLinkPage&) = delete;
 
   // The editor state the form keeps, back to 0 as when the form is created.
-  void reset();
+  void reset() override;
+  // A new job: no record, no line.
+  void clear() override;
   // Lists a decoded table, each line with the name of its own type.
-  void ListDecoded();
+  void listDecoded() override;
 
   // The editor state, named as the form has always named it.
   std::int16_t SelectedNetId = 0;

@@ -79,6 +79,11 @@ void StationPersonalityPage::remove() {
 
 // Every line shows the series the combo shows now, whatever each record's own; records that
 // are not listed keep the line they had.
+void StationPersonalityPage::clear() {
+  table_ = {};
+  form_.ListBox7.clear();
+}
+
 void StationPersonalityPage::relist() {
   ui::ListBox& list = form_.ListBox7;
   list.clear();

@@ -2,20 +2,21 @@
 
 #include "job/tables.h"
 #include "ui/dialogs.h"
+#include "ui/editor_page.h"
 #include "ui/user_form.h"
 
 namespace pellam::editors::station_personality {
 
 // Presenter of the station personalities in Frame102 of Page6: per net id, the station's
 // series, personality and room. The choosers' list indexes are the editor state.
-class StationPersonalityPage {
+class StationPersonalityPage final : public ui::EditorPage {
  public:
   StationPersonalityPage(ui::UserForm1& form, job::StationPersonalityTable& table, ui::Dialogs& dialogs);
-  StationPersonalityPage(const StationPersonalityPage&) = delete;
-  StationPersonalityPage& operator=(const StationPersonalityPage&) = delete;
 
+  // A new job keeps no personality of the last one: they go with the stations.
+  void clear() override;
   // Lists a decoded table. Decoding knows no series, so the lines show the one chosen now.
-  void ListDecoded() { relist(); }
+  void listDecoded() override { relist(); }
 
  private:
   bool everyChooserSet() const;

@@ -1,6 +1,8 @@
 // How soon a person sees the form, and how long a maximal job takes to open in it.
 //   pellam_qt_bench paint [JOB.zpd]  prints the wall clock (ns) of the window's first paint,
 //                                    every list filled; first_paint.sh subtracts the start.
+//   pellam_qt_bench bare             the same for an empty QMainWindow holding one QTabWidget:
+//                                    the floor the app's first paint is measured against.
 //   pellam_qt_bench open [N]         saves a maximal room-combine and station-link job and
 //                                    prints the median of N opens, drawn, in milliseconds.
 //   pellam_qt_bench maximal DIR      saves a maximal job of every mode into DIR as
@@ -8,7 +10,9 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QMainWindow>
 #include <QMessageBox>
+#include <QTabWidget>
 #include <QPushButton>
 #include <QTimer>
 #include <algorithm>
@@ -43,10 +47,28 @@ class FirstPaint final : public QObject {
 };
 
 int paint(const QString& job) {
-  qt::MainWindow window;
+  // A data folder of its own, so that no recovery copy of a real session is offered.
+  const QString data = QDir::temp().filePath(QStringLiteral("pellam-qt-bench-data-%1").arg(QCoreApplication::applicationPid()));
+  int result = 0;
+  {
+    qt::MainWindow window(nullptr, data);
+    FirstPaint watch;
+    window.start(job);
+    window.form().installEventFilter(&watch);
+    window.show();
+    result = QApplication::exec();
+  }
+  QDir(data).removeRecursively();
+  return result;
+}
+
+int bare() {
+  QMainWindow window;
+  auto* tabs = new QTabWidget;
+  tabs->addTab(new QWidget, QStringLiteral("Board Setup"));
+  window.setCentralWidget(tabs);
   FirstPaint watch;
-  window.start(job);
-  window.form().installEventFilter(&watch);
+  tabs->installEventFilter(&watch);
   window.show();
   return QApplication::exec();
 }
@@ -109,6 +131,7 @@ int main(int argc, char** argv) {
   QApplication app(argc, argv);
   const QStringList args = QApplication::arguments();
   if (args.size() > 2 && args[1] == "maximal") return saveMaximal(args[2]);
+  if (args.size() > 1 && args[1] == "bare") return bare();
   if (args.size() > 1 && args[1] == "open") return open(args.size() > 2 ? args[2].toInt() : 21);
   return paint(args.size() > 2 ? args[2] : QString());
 }

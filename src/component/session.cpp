@@ -23,10 +23,10 @@ Session::Session(ui::Dialogs& dialogs, ui::Shell& shell, ui::Clock& clock)
       filesPage(*this),
       uploadPage(*this) {
   navigation.setBoardPage(boardPage);
-  form.setErrorReport([this](const std::string& what) { platform_.msgBox("Unexpected Error: " + what, ui::Buttons::OK); });
+  form.setErrorReport([this](const std::string& what) { platform_.errorBox("Unexpected Error: " + what); });
 }
 
-bool Session::modified() const { return !job::sameContent(job, unmodified_); }
+bool Session::modified() const { return recovered_ || !job::sameContent(job, unmodified_); }
 
 void Session::checkThread() const {
   if (std::this_thread::get_id() != owner_) throw std::logic_error("the session was called from another thread");

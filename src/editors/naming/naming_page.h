@@ -24,6 +24,9 @@ class NamingPage {
 
   // The page's number lists, filled at start-up with the other choice lists.
   void fillLists();
+  // A new job has no labels; an opened one lists those read beside its image.
+  void Clear();
+  void ListDecoded();
 
  private:
   void ListRoomLabel(int room, const std::string& numberText);

@@ -29,6 +29,7 @@ namespace pellam::qt {
 namespace {
 
 constexpr int kRecentJobs = 8;
+constexpr int kJobLabelWidth = 240;
 // Often enough that little is lost, seldom enough that the copy costs nothing noticeable.
 constexpr int kRecoveryMilliseconds = 3000;
 
@@ -138,20 +139,26 @@ void MainWindow::buildActions() {
   tools->layout()->setContentsMargins(0, 0, 0, 0);
   tools->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   tools->addActions({newAction, openAction, saveAction, uploadAction});
+  tools->setMinimumWidth(tools->sizeHint().width());
   status_ = new QStatusBar;
   status_->setSizeGripEnabled(false);
   jobLabel_ = new QLabel;
   savedLabel_ = new QLabel;
   uploadLabel_ = new QLabel;
+  // Fixed widths: the menu bar sizes its corner once, and the texts come later.
+  const QFontMetrics metrics = fontMetrics();
+  jobLabel_->setFixedWidth(kJobLabelWidth + 8);
+  uploadLabel_->setFixedWidth(metrics.horizontalAdvance(tr("Uploading...")) + 8);
+  savedLabel_->setFixedWidth(metrics.horizontalAdvance(tr("Unsaved changes")) + 8);
   status_->addWidget(jobLabel_, 1);
   status_->addPermanentWidget(uploadLabel_);
   status_->addPermanentWidget(savedLabel_);
+  status_->setMinimumWidth(status_->sizeHint().width());
   auto* strip = new QWidget;
   auto* layout = new QHBoxLayout(strip);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(tools);
   layout->addWidget(status_, 1);
-  strip->setMinimumWidth(760);
   menuBar()->setCornerWidget(strip, Qt::TopRightCorner);
 }
 
@@ -196,7 +203,7 @@ void MainWindow::start(const QString& path) {
         fresh_ = false;
         view_->flush();
         jobChanged();
-        status_->showMessage(tr("Recovered the unsaved changes"), 10000);
+        say(tr("Recovered the unsaved changes"), 10000);
         return;
       }
     }
@@ -206,7 +213,7 @@ void MainWindow::start(const QString& path) {
     newJob();
   } else if (!QFileInfo(component::JobImageFor(path.toStdString()).c_str()).isFile()) {
     newJob();
-    status_->showMessage(tr("File Not Found: %1").arg(path));
+    say(tr("File Not Found: %1").arg(path));
   } else {
     openJob(path);
   }
@@ -236,7 +243,7 @@ void MainWindow::openJob(const QString& path) {
   recovery_.drop();
   view_->flush();
   if (session_.saveTarget.empty()) {
-    status_->showMessage(tr("%1 was not saved by Pellam Setup: Save asks for a name").arg(QFileInfo(text(image)).fileName()));
+    say(tr("%1 was not saved by Pellam Setup: Save asks for a name").arg(QFileInfo(text(image)).fileName()));
   } else {
     addRecent(text(image));
   }
@@ -275,9 +282,13 @@ void MainWindow::saved(bool done) {
   if (done) {
     recovery_.drop();
     addRecent(text(session_.currentJobFile));
-    status_->showMessage(tr("Saved %1").arg(QDir::toNativeSeparators(text(session_.currentJobFile))), 5000);
+    say(tr("Saved %1").arg(QDir::toNativeSeparators(text(session_.currentJobFile))), 5000);
   }
   jobChanged();
+}
+
+void MainWindow::say(const QString& news, int milliseconds) {
+  status_->showMessage(status_->fontMetrics().elidedText(news, Qt::ElideMiddle, status_->width() - 16), milliseconds);
 }
 
 void MainWindow::upload() {
@@ -332,8 +343,11 @@ void MainWindow::jobChanged() {
   const QString name = target.isEmpty() ? tr("New Job") : job.completeBaseName();
   const QString folder = target.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(QDir::toNativeSeparators(job.absolutePath()));
   setWindowTitle(QStringLiteral("%1%2%3 - Pellam Setup").arg(name, modified ? "*" : "", folder));
-  jobLabel_->setText(target.isEmpty() ? tr("Not saved yet")
-                                      : QDir::toNativeSeparators(QDir(job.absolutePath()).filePath(job.completeBaseName() + ".zpd")));
+  // The path is cut in the middle to the room beside the menus; the whole of it is its tooltip.
+  const QString image = target.isEmpty() ? tr("Not saved yet")
+                                         : QDir::toNativeSeparators(QDir(job.absolutePath()).filePath(job.completeBaseName() + ".zpd"));
+  jobLabel_->setText(jobLabel_->fontMetrics().elidedText(image, Qt::ElideMiddle, kJobLabelWidth));
+  jobLabel_->setToolTip(image);
   savedLabel_->setText(modified ? tr("Unsaved changes") : target.isEmpty() ? QString() : tr("Saved"));
 }
 

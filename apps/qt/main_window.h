@@ -58,6 +58,8 @@ class MainWindow final : public QMainWindow {
   void addRecent(const QString& zpd);
   void fillRecentMenu();
   void jobChanged();
+  // News that needs no answer, in the status bar for a while (0: until the next).
+  void say(const QString& news, int milliseconds = 0);
 
   QString dataFolder_;
   QtDialogs dialogs_;

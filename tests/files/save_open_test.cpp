@@ -251,6 +251,11 @@ TEST_F(SaveRefusals, AnInterruptedSaveIsFinishedOrUndoneWhenTheJobIsNextOpened) 
         {"aNetData.txt.pellam-old", "old stations"}, {"aNetData.txt.pellam-new", fresh.at("aNetData.txt")},
         {"a.zpd.pellam-new", zpd}},
        true},
+      // Interrupted after an old labels file was set aside: finished, the labels gone.
+      {"committed\n+LnkData.txt\n+NetData.txt\n+.zpd\nxLabels.txt\n",
+       {{"aLnkData.txt", fresh.at("aLnkData.txt")}, {"aNetData.txt", fresh.at("aNetData.txt")}, {"a.zpd", zpd},
+        {"aLabels.txt.pellam-old", "room\t4\tLobby\n"}},
+       true},
       // Interrupted while undoing a rename that failed: undone, the new image taken away.
       {"prepared\n+LnkData.txt\n+NetData.txt\n-.zpd\n",
        {{"aLnkData.txt", fresh.at("aLnkData.txt")}, {"aLnkData.txt.pellam-old", "old links"},

@@ -104,21 +104,24 @@ MainWindow::~MainWindow() {
 void MainWindow::buildActions() {
   QStyle* look = style();
   QMenu* job = menuBar()->addMenu(tr("&Job"));
-  QAction* newAction = job->addAction(look->standardIcon(QStyle::SP_FileIcon), tr("&New"), QKeySequence::New, this, guarded(session_.form, [this] {
+  const auto add = [&](QStyle::StandardPixmap icon, const QString& text, const QKeySequence& keys,
+                       std::function<void()> action) {
+    QAction* made = job->addAction(text, keys, this, guarded(session_.form, std::move(action)));
+    if (icon != QStyle::SP_CustomBase) made->setIcon(look->standardIcon(icon));
+    return made;
+  };
+  QAction* newAction = add(QStyle::SP_FileIcon, tr("&New"), QKeySequence::New, [this] {
     if (component::MayReplaceJob(session_)) newJob();
-  }));
-  QAction* openAction =
-      job->addAction(look->standardIcon(QStyle::SP_DialogOpenButton), tr("&Open..."), QKeySequence::Open, this, guarded(session_.form, [this] {
-        if (component::MayReplaceJob(session_)) chooseAndOpen();
-      }));
+  });
+  QAction* openAction = add(QStyle::SP_DialogOpenButton, tr("&Open..."), QKeySequence::Open, [this] {
+    if (component::MayReplaceJob(session_)) chooseAndOpen();
+  });
   recentMenu_ = job->addMenu(tr("Open &Recent"));
   connect(recentMenu_, &QMenu::aboutToShow, this, &MainWindow::fillRecentMenu);
-  QAction* saveAction =
-      job->addAction(look->standardIcon(QStyle::SP_DialogSaveButton), tr("&Save"), QKeySequence::Save, this, guarded(session_.form, [this] { save(); }));
-  job->addAction(tr("Save &As..."), QKeySequence::SaveAs, this, guarded(session_.form, [this] { saveAs(); }));
+  QAction* saveAction = add(QStyle::SP_DialogSaveButton, tr("&Save"), QKeySequence::Save, [this] { save(); });
+  add(QStyle::SP_CustomBase, tr("Save &As..."), QKeySequence::SaveAs, [this] { saveAs(); });
   job->addSeparator();
-  QAction* uploadAction =
-      job->addAction(look->standardIcon(QStyle::SP_ArrowUp), tr("&Upload..."), QKeySequence(tr("Ctrl+U")), this, guarded(session_.form, [this] { upload(); }));
+  QAction* uploadAction = add(QStyle::SP_ArrowUp, tr("&Upload..."), QKeySequence(tr("Ctrl+U")), [this] { upload(); });
   job->addSeparator();
   job->addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
 
@@ -199,13 +202,11 @@ void MainWindow::start(const QString& path) {
                                      .toStdString();
     if (dialogs_.msgBox(question, ui::Buttons::YesNo) == ui::Answer::Yes && recovery_.restore(*left)) {
       class1_.Load_User_Form();
-      {
-        fresh_ = false;
-        view_->flush();
-        jobChanged();
-        say(tr("Recovered the unsaved changes"), 10000);
-        return;
-      }
+      fresh_ = false;
+      view_->flush();
+      jobChanged();
+      say(tr("Recovered the unsaved changes"), 10000);
+      return;
     }
     recovery_.discard(*left);
   }

@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <algorithm>
 
+#include "ui/control_tips.h"
 #include "ui/reading_order.h"
 
 namespace pellam::qt {
@@ -64,6 +65,9 @@ ControlView& FormView::add(ui::Control& control, QWidget* parent) {
   auto view = makeView(control, parent, [this](const std::function<void()>& action) { personAction(action); });
   const ui::ControlSpec& spec = control.spec();
   if (spec.kind != ui::Kind::Page) view->widget()->setGeometry(spec.left, spec.top, spec.width, spec.height);
+  if (const std::string_view tip = ui::ControlTip(spec.name); !tip.empty()) {
+    view->widget()->setToolTip(QString::fromUtf8(tip.data(), static_cast<qsizetype>(tip.size())));
+  }
   byControl_[&control] = view.get();
   views_.push_back(std::move(view));
   return *views_.back();

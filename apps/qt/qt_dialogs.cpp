@@ -1,6 +1,8 @@
 #include "qt_dialogs.h"
 
 #include <QFileDialog>
+#include <QGridLayout>
+#include <QSpacerItem>
 #include <QMessageBox>
 #include <QRegularExpression>
 
@@ -10,9 +12,22 @@ namespace {
 const QString kTitle = QStringLiteral("Pellam Setup");
 }
 
-ui::Answer QtDialogs::msgBox(const std::string& text, ui::Buttons buttons) {
-  QMessageBox box(QMessageBox::NoIcon, kTitle, QString::fromStdString(text).replace("\r\n", "\n"),
-                  QMessageBox::NoButton, parent_);
+ui::Answer QtDialogs::msgBox(const std::string& text, ui::Buttons buttons) { return show(text, buttons, false); }
+ui::Answer QtDialogs::errorBox(const std::string& text) { return show(text, ui::Buttons::OK, true); }
+
+// A refusal informs, a choice asks, an error trap warns.
+ui::Answer QtDialogs::show(const std::string& text, ui::Buttons buttons, bool error) {
+  const QMessageBox::Icon icon = error                        ? QMessageBox::Warning
+                                 : buttons == ui::Buttons::OK ? QMessageBox::Information
+                                                              : QMessageBox::Question;
+  QMessageBox box(icon, kTitle, QString::fromStdString(text).replace("\r\n", "\n"), QMessageBox::NoButton, parent_);
+  // A short text would make the box narrower than its title; a spacer under the text keeps
+  // the title whole with the window's own buttons beside it.
+  if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+    const int titleWidth = box.fontMetrics().horizontalAdvance(kTitle) + 160;
+    grid->addItem(new QSpacerItem(titleWidth, 0, QSizePolicy::Minimum, QSizePolicy::Fixed), grid->rowCount(), 0, 1,
+                  grid->columnCount());
+  }
   switch (buttons) {
     case ui::Buttons::OK:
       box.setStandardButtons(QMessageBox::Ok);

@@ -14,9 +14,11 @@ class QtDialogs final : public ui::Dialogs {
   explicit QtDialogs(QWidget* parent = nullptr) : parent_(parent) {}
   void setParent(QWidget* parent) { parent_ = parent; }
   ui::Answer msgBox(const std::string& text, ui::Buttons buttons) override;
+  ui::Answer errorBox(const std::string& text) override;
   std::string openFile(const ui::FileDialogRequest& request) override;
 
  private:
+  ui::Answer show(const std::string& text, ui::Buttons buttons, bool error);
   QWidget* parent_;
 };
 

@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include "component/job_files.h"
+#include "component/keep_work.h"
 #include "component/session.h"
 #include "files/file_type.h"
 #include "files/job_paths.h"
@@ -52,7 +53,7 @@ void FilesPage::OpenChosen() {
     s_.dialogs().msgBox("No File Selected", ui::Buttons::OK);
     return;
   }
-  if (CheckFileType(s_, path) == 1) OpenJobSequence(s_, path);
+  if (CheckFileType(s_, path) == 1 && MayReplaceJob(s_)) OpenJobSequence(s_, path);
 }
 
 }  // namespace pellam::component

@@ -9,9 +9,11 @@
 #include "files/job_paths.h"
 #include "files/room_combine_report.h"
 #include "files/open_job.h"
+#include "files/room_labels.h"
 #include "files/save_job.h"
 #include "image/clear.h"
 #include "image/decode.h"
+#include "image/memory_map.h"
 #include "image/pack.h"
 #include "job/runtime_error.h"
 #include "ui/trap.h"
@@ -110,6 +112,42 @@ std::string roomCombineReport(Session& s) {
   return report;
 }
 
+// The mode's files, then the labels, which every mode keeps beside its image.
+void addJobFiles(Session& s, files::JobFiles& files, bool withReport) {
+  if (const OperatingMode* mode = operatingMode(s.job.board.OperatingMode)) {
+    if (mode->keepsReport && withReport) files.exact(files::kReportSuffix, roomCombineReport(s));
+    mode->save(s, files);
+  }
+  const std::string labels = files::LabelsText(s.job.roomGroupNames);
+  if (labels.empty()) {
+    files.remove(files::kLabelsSuffix);
+  } else {
+    files.exact(files::kLabelsSuffix, labels);
+  }
+}
+
+// Labels are read back when the job has a file of them; a damaged line is named and passed
+// over, the others kept.
+void readLabels(Session& s, const std::string& zpdPath) {
+  const std::string path = files::jobPrefix(zpdPath) + files::kLabelsSuffix;
+  const std::optional<std::string> text = files::ReadTextFile(path);
+  files::ReadLabels read = text ? files::ParseLabels(*text) : files::ReadLabels{};
+  s.job.roomGroupNames = std::move(read.names);
+  s.namingPage.listDecoded();
+  if (read.badLine > 0) {
+    s.dialogs().msgBox("Labels Not Read: " + path + " Line " + std::to_string(read.badLine), ui::Buttons::OK);
+  }
+}
+
+// Only a job image this program saves becomes the save target: 32,767 bytes of the right type
+// under the name its own save would give it.
+std::string saveTargetOf(const Session& s, const std::string& zpdPath, long bytesRead) {
+  const std::string prefix = files::jobPrefix(zpdPath);
+  const bool job = bytesRead == image::map::kZpdSize &&
+                   s.image.at(image::map::kProductTypeByte) == image::map::kProductTypeValue;
+  return job && zpdPath == prefix + ".zpd" ? prefix + ".txt" : std::string();
+}
+
 }  // namespace
 
 std::int16_t CheckFileType(Session& s, const std::string& path) {
@@ -134,6 +172,14 @@ std::string FolderCheck(Session& s, const std::string& jobPath, MissingFolder mi
   return files::CreateFolderPath(folder, created) ? folder : std::string{};
 }
 
+std::vector<files::JobFile> RecoveryFiles(Session& s, const std::string& jobPath) {
+  packSettings(s);
+  files::JobFiles files(jobPath, s.inputBank);
+  addJobFiles(s, files, false);
+  files.image(s.image);
+  return files.files();
+}
+
 std::string SaveJobSequence(Session& s, const std::string& jobPath, const std::string& noFolder) {
   packSettings(s);
   files::CreatedFolders created;
@@ -142,16 +188,14 @@ std::string SaveJobSequence(Session& s, const std::string& jobPath, const std::s
     return {};
   }
   const OperatingMode* mode = operatingMode(s.job.board.OperatingMode);
-  const files::Saved saved = files::SaveJob(jobPath, s.inputBank, s.image, [&](files::JobFiles& files) {
-    if (!mode) return;
-    if (mode->keepsReport) files.exact(files::kReportSuffix, roomCombineReport(s));
-    mode->save(s, files);
-  });
+  const files::Saved saved =
+      files::SaveJob(jobPath, s.inputBank, s.image, [&](files::JobFiles& files) { addJobFiles(s, files, true); });
   if (!saved.refusal.empty()) s.dialogs().msgBox(saved.refusal, ui::Buttons::OK);
   const std::string& zpd = saved.zpd;
   if (!zpd.empty()) {
     created.keep();
     s.currentJobFile = zpd;
+    s.saveTarget = jobPath;
     s.form.Label144.setCaption(zpd);
     if (mode && mode->keepsReport && !s.shell().openInViewer(files::reportPath(jobPath))) {
       s.dialogs().msgBox("Can't Start Notepad", ui::Buttons::OK);
@@ -194,6 +238,7 @@ bool OpenJobSequence(Session& s, const std::string& path) {
   }
   // Cleared and read as one: the file's bytes, then 0 up to 33998; byte 0 stays when the file
   // is empty, and 33999..34001 always.
+  long bytesRead = 0;
   ui::trap(s.dialogs(), "Error module ClearEEpromImage", [&] {
     image::ClearRoomTables(s.job);
     long read = files::ReadImageBytes(*file, s.image.bytes().first(image::map::kZpdSize));
@@ -202,12 +247,15 @@ bool OpenJobSequence(Session& s, const std::string& path) {
       read = 0;
     }
     s.image.fill(std::max<int>(image::map::kClearFirst, static_cast<int>(read)), image::map::kClearLast, 0);
+    bytesRead = read;
   });
+  s.saveTarget = saveTargetOf(s, path, bytesRead);
   DecodeImage(s);
   s.currentJobFile = path;
   s.companionReport.clear();
   const OperatingMode* mode = operatingMode(s.job.board.OperatingMode);
   if (mode && mode->keepsReport) s.companionReport = files::ReadTextFile(files::companionReportPath(path)).value_or("");
+  readLabels(s, path);
   s.markUnmodified();
   return true;
 }

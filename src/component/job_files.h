@@ -1,9 +1,11 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "component/session.h"
 #include "files/job_paths.h"
+#include "files/replace_files.h"
 
 // The save and open sequences of a whole session: board values, packing, folders, files,
 // decoding and the form's display of what was opened.
@@ -24,6 +26,10 @@ std::string FolderCheck(Session& session, const std::string& jobPath, MissingFol
 // and saves the files; `noFolder` is the message when there is no folder to save into.
 // Returns the .zpd path written, or an empty string.
 std::string SaveJobSequence(Session& session, const std::string& jobPath, const std::string& noFolder);
+
+// The files a save to `jobPath` writes, packed as a save packs them, the report left out and
+// nothing written: what a recovery copy keeps of the job.
+std::vector<files::JobFile> RecoveryFiles(Session& session, const std::string& jobPath);
 
 // Clears, reads and decodes an image file; a file that cannot be read is refused with a
 // message and changes nothing.

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <ostream>
+#include <string>
+#include <vector>
 
 #include "files/save_job.h"
 #include "job/job.h"
@@ -19,6 +21,8 @@ struct OperatingMode {
   ui::Page ui::UserForm1::*alsoShows;  // or nullptr
   // The room-combine report is written first, shown in the viewer and read back on open.
   bool keepsReport;
+  // The suffixes of the text files `save` writes, in its order (the .zpd comes last).
+  std::vector<std::string> fileSuffixes;
   void (*save)(Session& session, files::JobFiles& files);
   void (*decode)(Session& session);
   void (*list)(std::ostream& out, const job::Job& job);

@@ -23,7 +23,7 @@ Session::Session(ui::Dialogs& dialogs, ui::Shell& shell, ui::Clock& clock)
       filesPage(*this),
       uploadPage(*this) {
   navigation.setBoardPage(boardPage);
-  form.setErrorReport([this](const std::string& what) { platform_.msgBox("Unexpected Error: " + what, ui::Buttons::OK); });
+  form.setErrorReport([this](const std::string& what) { platform_.errorBox("Unexpected Error: " + what); });
 }
 
 std::array<ui::EditorPage*, 10> Session::editorPages() {
@@ -31,7 +31,7 @@ std::array<ui::EditorPage*, 10> Session::editorPages() {
           &stationPersonalityPage, &roomCombinePage, &namingPage, &remoteCommandsPage, &inputNumberingPage};
 }
 
-bool Session::modified() const { return !job::sameContent(job, unmodified_); }
+bool Session::modified() const { return recovered_ || !job::sameContent(job, unmodified_); }
 
 void Session::checkThread() const {
   if (std::this_thread::get_id() != owner_) throw std::logic_error("the session was called from another thread");

@@ -7,6 +7,7 @@
 
 #include "component/files_page.h"
 #include "component/upload_page.h"
+#include "component/work_keeper.h"
 #include "component/page_navigation.h"
 #include "editors/channel_emulation/channel_emulation_page.h"
 #include "editors/input_numbering/input_numbering_page.h"
@@ -39,6 +40,7 @@ class PlatformProxy final : public ui::Dialogs, public ui::Shell, public ui::Clo
     clock_ = &clock;
   }
   ui::Answer msgBox(const std::string& text, ui::Buttons buttons) override { return dialogs_->msgBox(text, buttons); }
+  ui::Answer errorBox(const std::string& text) override { return dialogs_->errorBox(text); }
   std::string openFile(const ui::FileDialogRequest& request) override { return dialogs_->openFile(request); }
   bool openInViewer(const std::string& path) override { return shell_->openInViewer(path); }
   ui::DateTime now() override { return clock_->now(); }
@@ -72,6 +74,11 @@ class Session {
   std::function<void()> runModalForm;
   // The .zpd last saved or opened: the file an upload sends.
   std::string currentJobFile;
+  // The job path (.txt) a person's Save writes: the path it was last saved under, or the one
+  // of the job image it was opened from. A new job or a file of another kind has none.
+  std::string saveTarget;
+  // What a face that keeps a person's work asks (unset for a host that keeps the job itself).
+  WorkKeeper keeper;
   // The room-combine report read beside a mode-3 job when it was opened.
   std::string companionReport;
   // Input-bank setting of the save: any value but 2 writes the second bank's text too.
@@ -85,11 +92,17 @@ class Session {
   // Whether the job holds anything that was not there when it was last started, opened or
   // saved: every face asks this before it lets a job go.
   bool modified() const;
-  void markUnmodified() { unmodified_ = job; }
+  void markUnmodified() {
+    unmodified_ = job;
+    recovered_ = false;
+  }
+  // A job brought back after a crash is unsaved work whatever it holds.
+  void markRecovered() { recovered_ = true; }
 
  private:
   PlatformProxy platform_;
   job::Job unmodified_;
+  bool recovered_ = false;
   std::thread::id owner_ = std::this_thread::get_id();
 
  public:

@@ -99,6 +99,9 @@ void Initailize_Pellam_Variables_And_Form(Session& s) {
   ui::trap(d, "Error module LoadRemoteCommandLists", [&] { fillRemoteCommandLists(f); });
   ui::trap(d, "Error module ClearRemoteCommands", [&] { s.remoteCommandsPage.clear(); });
   ui::trap(d, "Error module ClearInputNumbering", [&] { s.inputNumberingPage.clear(); });
+  // A new job keeps no label or save target of the last one.
+  s.namingPage.clear();
+  s.saveTarget.clear();
   s.markUnmodified();
 }
 

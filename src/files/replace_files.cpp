@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <string_view>
 #include <system_error>
 
 #include "files/durable_file.h"
@@ -24,6 +25,7 @@ constexpr const char* kCommitted = "committed"; // finish on recovery
 struct Target {
   std::string suffix;
   bool existed = false;  // an old file was there to keep until the end
+  bool remove = false;   // no new file goes in its place
 };
 
 struct Record {
@@ -56,7 +58,7 @@ bool renameOver(const fs::path& from, const fs::path& to) {
 // The record is written whole beside itself and renamed into place, so it is never read half.
 bool writeRecord(const std::string& prefix, const Record& record) {
   std::string text = record.state + "\n";
-  for (const Target& t : record.targets) text += (t.existed ? "+" : "-") + t.suffix + "\n";
+  for (const Target& t : record.targets) text += (t.remove ? "x" : t.existed ? "+" : "-") + t.suffix + "\n";
   const fs::path path = with(prefix, kRecordSuffix);
   const fs::path part = beside(path, kNewSuffix);
   const bool fine = writeDurably(part, text) && renameOver(part, path);
@@ -72,10 +74,11 @@ std::optional<Record> readRecord(const std::string& prefix) {
   if (record.state != kPrepared && record.state != kCommitted) return std::nullopt;
   for (std::string line; std::getline(in, line);) {
     // A suffix never names another folder: a record that says otherwise was not ours.
-    if (line.size() < 2 || (line[0] != '+' && line[0] != '-') || line.find_first_of("/\\") != std::string::npos) {
+    if (line.size() < 2 || std::string_view("+-x").find(line[0]) == std::string_view::npos ||
+        line.find_first_of("/\\") != std::string::npos) {
       return std::nullopt;
     }
-    record.targets.push_back({line.substr(1), line[0] == '+'});
+    record.targets.push_back({line.substr(1), line[0] != '-', line[0] == 'x'});
   }
   return record;
 }
@@ -122,6 +125,7 @@ bool readOnly(const fs::path& p) {
 
 std::optional<std::string> refusal(const std::string& prefix, const std::vector<JobFile>& files) {
   for (const JobFile& f : files) {
+    if (f.remove) continue;
     const std::string path = prefix + f.suffix;
     std::error_code ec;
     if (fs::is_directory(fsPath(path), ec)) return "Cannot Write File: " + path;
@@ -135,10 +139,14 @@ std::optional<std::string> refusal(const std::string& prefix, const std::vector<
 std::optional<std::string> ReplaceJobFiles(const std::string& prefix, const std::vector<JobFile>& files) {
   if (auto refused = refusal(prefix, files)) return refused;
   Record record{kPrepared, {}};
-  for (const JobFile& f : files) record.targets.push_back({f.suffix, present(with(prefix, f.suffix))});
+  for (const JobFile& f : files) {
+    const bool existed = present(with(prefix, f.suffix));
+    if (!f.remove || existed) record.targets.push_back({f.suffix, existed, f.remove});
+  }
   if (!writeRecord(prefix, record)) return "Cannot Write File: " + prefix + kRecordSuffix;
 
   for (const JobFile& f : files) {
+    if (f.remove) continue;
     if (!writeDurably(beside(with(prefix, f.suffix), kNewSuffix), f.bytes)) {
       rollBack(prefix, record.targets);
       return "Cannot Write File: " + prefix + f.suffix;
@@ -154,7 +162,7 @@ std::optional<std::string> ReplaceJobFiles(const std::string& prefix, const std:
   for (const Target& t : record.targets) {
     const fs::path target = with(prefix, t.suffix);
     const bool moved = (!t.existed || renameOver(target, beside(target, kOldSuffix))) &&
-                       renameOver(beside(target, kNewSuffix), target);
+                       (t.remove || renameOver(beside(target, kNewSuffix), target));
     if (!moved) {
       // Undone under a record that says so, in case this process dies while undoing.
       record.state = kPrepared;

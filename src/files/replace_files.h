@@ -12,6 +12,8 @@ namespace pellam::files {
 struct JobFile {
   std::string suffix;
   std::string bytes;
+  // Taken away by the save instead (a file an earlier save wrote that this job no longer has).
+  bool remove = false;
 };
 
 // Checks every target, writes each file beside its target and flushes it, then renames them

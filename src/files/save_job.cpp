@@ -39,6 +39,13 @@ void JobFiles::whole(const std::string& suffix, const std::string& text) { files
 
 void JobFiles::exact(const std::string& suffix, std::string text) { files_.push_back({suffix, std::move(text)}); }
 
+void JobFiles::image(const image::EepromImage& image) {
+  const auto bytes = image.bytes();
+  files_.push_back({".zpd", std::string(bytes.begin(), bytes.begin() + image::map::kZpdSize)});
+}
+
+void JobFiles::remove(const std::string& suffix) { files_.push_back({suffix, {}, true}); }
+
 // An input of the second bank is written after its partner of the first, and only when the
 // partner has text of its own.
 void JobFiles::perInput(const std::string& suffix, int first, const std::function<std::string(int)>& textOf) {
@@ -60,8 +67,7 @@ Saved SaveJob(const std::string& jobPath, int inputBank, image::EepromImage& ima
   RecoverInterruptedSave(files.prefix());
   if (writeModeFiles) writeModeFiles(files);
 
-  const auto bytes = image.bytes();
-  files.exact(".zpd", std::string(bytes.begin(), bytes.begin() + image::map::kZpdSize));
+  files.image(image);
   if (std::optional<std::string> refused = ReplaceJobFiles(files.prefix(), files.files())) return {{}, *refused};
   return {files.prefix() + ".zpd", {}};
 }

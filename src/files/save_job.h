@@ -25,6 +25,10 @@ class JobFiles {
   void whole(const std::string& suffix, const std::string& text);
   // A file as it is given (the room-combine report).
   void exact(const std::string& suffix, std::string text);
+  // The image file, the first 32,767 bytes of the image.
+  void image(const image::EepromImage& image);
+  // A file an earlier save may have left that this job no longer has: the save takes it away.
+  void remove(const std::string& suffix);
   // One text per input from `first` to 16, each followed by its second-bank partner's.
   void perInput(const std::string& suffix, int first, const std::function<std::string(int)>& textOf);
 

@@ -184,7 +184,7 @@ void BoardSetupPage::Confirm() {
     form_.TextBox5.setText(summary());
     if (board_.SlaveId == 0) board_.SlaveId = job::kMasterSlaveIdValue;
   } catch (const std::exception& e) {
-    dialogs_.msgBox(std::string("Error Module CommandButton4 ") + e.what(), ui::Buttons::OK);
+    dialogs_.errorBox(std::string("Error Module CommandButton4 ") + e.what());
   }
 }
 

@@ -18,6 +18,8 @@ class Dialogs {
  public:
   virtual ~Dialogs() = default;
   virtual Answer msgBox(const std::string& text, Buttons buttons) = 0;
+  // An error trap's text: an OK box like any other unless the face marks it as a warning.
+  virtual Answer errorBox(const std::string& text) { return msgBox(text, Buttons::OK); }
   // The chosen full path, or an empty string when the person cancels.
   virtual std::string openFile(const FileDialogRequest& request) = 0;
 };

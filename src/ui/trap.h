@@ -16,7 +16,7 @@ bool trap(Dialogs& dialogs, const std::string& trapText, Body&& body) {
     body();
     return true;
   } catch (const job::RuntimeError&) {
-    dialogs.msgBox(trapText, Buttons::OK);
+    dialogs.errorBox(trapText);
     return false;
   }
 }

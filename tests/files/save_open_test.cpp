@@ -7,8 +7,10 @@
 #include <map>
 #include <random>
 #include <set>
+#include <tuple>
 
 #include "component/job_files.h"
+#include "component/operating_modes.h"
 #include "image/memory_map.h"
 #include "support/desk.h"
 
@@ -97,6 +99,9 @@ void buildJob(Desk& desk, int mode) {
         job.roomCombine.records[12] = {12, 3, 5, 1};
         job.roomCombine.records[2048] = {2048, 255, 255, 2};
         job.board.FurtherOption = 9;
+        // Labels have no place in the image: they go beside it, any text kept whole.
+        job.roomGroupNames.names[4] = {"Lobby", "", "Front\\desk\tA\r\n", 7};
+        job.roomGroupNames.names[255] = {"Ballroom", "Stage", "", 0};
       }
       // Tables filled by hand are listed as an opened job lists them: the report prints the list.
       desk.session().roomLinkPage.listDecodedFor(mode);
@@ -143,6 +148,8 @@ TEST(SaveAndOpen, EveryModeSurvivesAReopenAndSavesTheSameBytes) {
     const ui::Page* modePage[] = {nullptr, &reader.form().Page2, &reader.form().Page3, &reader.form().Page4,
                                   &reader.form().Page5, &reader.form().Page6};
     EXPECT_TRUE(modePage[mode]->visible());
+    EXPECT_EQ(reader.form().ListBox12.items(), mode == 3 ? Lines({"4: Lobby", "255: Ballroom"}) : Lines{});
+    EXPECT_EQ(reader.form().ComboBox58.items(), mode == 3 ? Lines({"255: Stage"}) : Lines{});
   }
 }
 
@@ -150,7 +157,7 @@ TEST(SaveAndOpen, EachModeWritesItsOwnFiles) {
   const std::map<int, std::set<std::string>> expected = {
       {1, {"a.txt", "a.zpd"}},
       {2, {"a.txt", "a.zpd"}},
-      {3, {"aUserData.txt", "aLnkData.txt", "aNetData.txt", "aGrpRoom.txt", "a.zpd"}},
+      {3, {"aUserData.txt", "aLnkData.txt", "aNetData.txt", "aGrpRoom.txt", "aLabels.txt", "a.zpd"}},
       {4, {"aPreSetData.txt", "a.zpd"}},
       {5, {"aLnkData.txt", "aNetData.txt", "a.zpd"}},
   };
@@ -164,6 +171,11 @@ TEST(SaveAndOpen, EachModeWritesItsOwnFiles) {
     std::set<std::string> written;
     for (const auto& [name, bytes] : folderContents(folder.path())) written.insert(name);
     EXPECT_EQ(written, names);
+    // The mode's list of its files is what Save As checks before it replaces any.
+    std::set<std::string> listed = {"a.zpd"};
+    for (const std::string& suffix : component::operatingMode(mode)->fileSuffixes) listed.insert("a" + suffix);
+    if (mode == 3) listed.insert("aLabels.txt");
+    EXPECT_EQ(listed, names);
     EXPECT_EQ(desk.session().currentJobFile, folder.file("a.zpd"));
     EXPECT_EQ(desk.form().Label144.caption(), folder.file("a.zpd"));
   }
@@ -238,6 +250,11 @@ TEST_F(SaveRefusals, AnInterruptedSaveIsFinishedOrUndoneWhenTheJobIsNextOpened) 
        {{"aLnkData.txt", fresh.at("aLnkData.txt")}, {"aLnkData.txt.pellam-old", "old links"},
         {"aNetData.txt.pellam-old", "old stations"}, {"aNetData.txt.pellam-new", fresh.at("aNetData.txt")},
         {"a.zpd.pellam-new", zpd}},
+       true},
+      // Interrupted after an old labels file was set aside: finished, the labels gone.
+      {"committed\n+LnkData.txt\n+NetData.txt\n+.zpd\nxLabels.txt\n",
+       {{"aLnkData.txt", fresh.at("aLnkData.txt")}, {"aNetData.txt", fresh.at("aNetData.txt")}, {"a.zpd", zpd},
+        {"aLabels.txt.pellam-old", "room\t4\tLobby\n"}},
        true},
       // Interrupted while undoing a rename that failed: undone, the new image taken away.
       {"prepared\n+LnkData.txt\n+NetData.txt\n-.zpd\n",
@@ -318,6 +335,49 @@ TEST_F(Opening, AnEmptyOrMissingFileIsRefusedAndChangesNothing) {
   desk.answer(ui::Answer::No);
   EXPECT_EQ(desk.class1().Product_Type(empty), -1);
   EXPECT_EQ(desk.job().roomLink.records[3].LinkInput, 4) << "a foreign file answered No leaves the tables";
+}
+
+// Only an image this program saved, under the name its save gives, is saved again in place.
+TEST_F(Opening, OnlyAJobImageOfOursBecomesTheSaveTarget) {
+  Desk author;
+  author.startUp();
+  buildJob(author, 2);
+  save(author, folder.file("Hall.txt"));
+  EXPECT_EQ(author.session().saveTarget, folder.file("Hall.txt"));
+  fs::copy_file(folder.path() / "Hall.zpd", folder.path() / "Hall.v2.zpd");
+  folder.write("Lobby.txt", "P,1,I,1,notes of another program\r\n");
+  const std::pair<std::string, std::string> cases[] = {
+      {"Hall.zpd", folder.file("Hall.txt")}, {"Lobby.txt", ""}, {"Hall.v2.zpd", ""}};
+  for (const auto& [file, target] : cases) {
+    SCOPED_TRACE(file);
+    desk.answer(ui::Answer::Yes);
+    open(desk, folder.file(file));
+    desk.shown();
+    EXPECT_EQ(desk.session().saveTarget, target);
+  }
+  desk.startUp();
+  EXPECT_EQ(desk.session().saveTarget, "") << "a new job has none";
+}
+
+// Labels written by a save are read back; a job without labels leaves no file of them, and a
+// damaged line is named while the others are kept.
+TEST_F(Opening, LabelsComeBackAndNoLabelsLeaveNoFile) {
+  folder.write("aLabels.txt", "room\t4\tLobby\r\ngroup\t300\tToo far\r\nname\t4\t7\tFront\n");
+  Desk author;
+  author.startUp();
+  buildJob(author, 2);
+  save(author, folder.file("a.txt"));
+  EXPECT_FALSE(fs::exists(folder.path() / "aLabels.txt")) << "an old labels file goes with the save";
+
+  folder.write("aLabels.txt", "room\t4\tLobby\r\ngroup\t300\tToo far\r\nname\t4\t7\tFront\n");
+  open(desk, folder.file("a.zpd"));
+  EXPECT_EQ(desk.shown(), Lines{okBox("Labels Not Read: " + folder.file("aLabels.txt") + " Line 2")});
+  const job::RoomGroupName& room = desk.job().roomGroupNames.names[4];
+  EXPECT_EQ(std::tie(room.RoomLabel, room.RoomName, room.RoomValue), std::make_tuple("Lobby", "Front", 7));
+  EXPECT_EQ(desk.form().ListBox12.items(), Lines{"4: Lobby"});
+  fs::remove(folder.path() / "aLabels.txt");
+  open(desk, folder.file("a.zpd"));
+  EXPECT_EQ(desk.form().ListBox12.count(), 0) << "an opened job keeps no label of the last one";
 }
 
 TEST_F(Opening, AModeThreeJobReadsItsReport) {

@@ -65,11 +65,13 @@ TEST(FilesFrameWidgets, SavesListsAndOpensAJob) {
   app.click("CommandButton101");
   EXPECT_THAT(app.lines("ListBox11"), ElementsAre("Lobby.zpd"));
 
-  // Another mode, then the saved job back from the list.
+  // Another mode, then the saved job back from the list, the change discarded.
   app.choose("ComboBox1", 4);
   app.click("CommandButton4");
   app.clickLine("ListBox11", 0);
+  app.boxes.queue(QMessageBox::Discard);
   app.click("CommandButton102");
+  EXPECT_THAT(app.boxes.seen, ElementsAre("msgbox \"Save the changes to this job?\" -> Discard"));
   EXPECT_EQ(app.shownText("ComboBox1"), "Room Link ");
   EXPECT_TRUE(app.tabShown(2));
   EXPECT_FALSE(app.tabShown(4));

@@ -2,8 +2,10 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -25,6 +27,23 @@ namespace pellam::qt::testing {
 BoxAnswerer::BoxAnswerer() {
   timer_.setInterval(5);
   QObject::connect(&timer_, &QTimer::timeout, [this] {
+    QWidget* modal = QApplication::activeModalWidget();
+    QWidget* parent = modal;
+    while (owner && parent && parent != owner) parent = parent->parentWidget();
+    if (owner && !parent) return;
+    if (auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
+      filters.push_back(dialog->nameFilters());
+      const QString path = paths_.empty() ? QString() : paths_.front();
+      if (!paths_.empty()) paths_.pop_front();
+      seen.push_back("file dialog -> " + path.toStdString());
+      if (path.isEmpty()) {
+        dialog->reject();
+      } else {
+        dialog->selectFile(path);
+        static_cast<QDialog*>(dialog)->accept();  // the file dialog checks the name as on Return
+      }
+      return;
+    }
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     if (!box) return;
     QMessageBox::StandardButton answer = QMessageBox::NoButton;
@@ -34,22 +53,29 @@ BoxAnswerer::BoxAnswerer() {
     } else {
       answer = box->standardButton(box->escapeButton());
     }
-    const char* name = answer == QMessageBox::Yes      ? "Yes"
-                       : answer == QMessageBox::No     ? "No"
-                       : answer == QMessageBox::Cancel ? "Cancel"
-                                                       : "OK";
+    const char* name = answer == QMessageBox::Yes       ? "Yes"
+                       : answer == QMessageBox::No      ? "No"
+                       : answer == QMessageBox::Cancel  ? "Cancel"
+                       : answer == QMessageBox::Save    ? "Save"
+                       : answer == QMessageBox::Discard ? "Discard"
+                                                        : "OK";
     seen.push_back("msgbox \"" + box->text().toStdString() + "\" -> " + name);
+    icons.push_back(box->icon());
+    roomBesideTitle.push_back(box->width() - box->fontMetrics().horizontalAdvance(box->windowTitle()));
     box->button(answer)->click();
   });
   timer_.start();
 }
 
-FormDriver::FormDriver() {
+FormDriver::FormDriver(std::filesystem::path dataFolder, QMessageBox::StandardButton atStart) {
   folder = std::filesystem::temp_directory_path() /
            ("pellam-qt-" + std::to_string(std::random_device{}()));
   std::filesystem::create_directories(folder);
-  window_ = std::make_unique<MainWindow>();
+  data = dataFolder.empty() ? folder / "app-data" : dataFolder;
+  window_ = std::make_unique<MainWindow>(nullptr, QString::fromStdString(data.string()));
+  boxes.owner = window_.get();
   window_->show();
+  if (atStart != QMessageBox::NoButton) boxes.queue(atStart);
   window_->start({});
   EXPECT_TRUE(QTest::qWaitForWindowExposed(window_.get()));
 }
@@ -116,6 +142,14 @@ void FormDriver::showPage(const char* page) {
   ASSERT_TRUE(tabs->isTabVisible(index)) << page << " has no tab";
   QTest::mouseClick(tabs->tabBar(), Qt::LeftButton, {}, tabs->tabBar()->tabRect(index).center());
   QTest::qWait(1);
+}
+
+QAction* FormDriver::menuAction(const QString& text) {
+  for (QAction* action : window_->findChildren<QAction*>()) {
+    if (action->text() == text) return action;
+  }
+  ADD_FAILURE() << "no action " << text.toStdString();
+  return nullptr;
 }
 
 QStringList FormDriver::lines(const char* listBox) {

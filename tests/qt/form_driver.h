@@ -18,24 +18,42 @@ inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << tex
 
 namespace pellam::qt::testing {
 
-// Answers the real message boxes the app shows, in order, and keeps what each one said as
-// `msgbox "TEXT" -> Button`. A box nobody expected gets its escape button so a test never hangs.
+// Answers the real message boxes and file dialogs the app shows, in order, and keeps what each
+// one said as `msgbox "TEXT" -> Button` or `file dialog -> PATH`. A box nobody expected gets its
+// escape button, a file dialog a cancel, so a test never hangs.
 class BoxAnswerer {
  public:
   BoxAnswerer();
   void queue(QMessageBox::StandardButton button) { answers_.push_back(button); }
+  void queuePath(const QString& path) { paths_.push_back(path); }
+  void stop() { timer_.stop(); }
+  // Only boxes and dialogs of this window are answered, when set: a test may open two.
+  QWidget* owner = nullptr;
   std::vector<std::string> seen;
+  std::vector<QMessageBox::Icon> icons;
+  // How much wider each box is than its title's text.
+  std::vector<int> roomBesideTitle;
+  // The name filters of the file dialogs shown.
+  std::vector<QStringList> filters;
 
  private:
   QTimer timer_;
   std::deque<QMessageBox::StandardButton> answers_;
+  std::deque<QString> paths_;
 };
 
 // The app's window, started as a new job, driven through its widgets as a person would.
 class FormDriver {
  public:
-  FormDriver();
+  // `data` keeps the app's recent jobs and recovery copies (a folder of the test's own when
+  // empty); `atStart` answers a question the start asks.
+  explicit FormDriver(std::filesystem::path data = {}, QMessageBox::StandardButton atStart = QMessageBox::NoButton);
   ~FormDriver();
+  // Ends the window as a crash would: no close, no question.
+  void crash() {
+    window_.reset();
+    boxes.stop();
+  }
 
   MainWindow& window() { return *window_; }
   ui::UserForm1& form() { return window_->session().form; }
@@ -51,6 +69,8 @@ class FormDriver {
   void type(const char* textBox, const QString& text);
   void clickLine(const char* listBox, int row);
   void showPage(const char* page);
+  // The window's menu action of that text.
+  QAction* menuAction(const QString& text);
   QStringList lines(const char* listBox);
   QString shownText(const char* control);
   bool tabShown(int page);
@@ -63,6 +83,7 @@ class FormDriver {
 
   BoxAnswerer boxes;
   std::filesystem::path folder;
+  std::filesystem::path data;
 
  private:
   std::unique_ptr<MainWindow> window_;

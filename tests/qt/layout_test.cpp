@@ -16,6 +16,7 @@
 #include "editors/station_personality/list_lines.h"
 #include "form_driver.h"
 #include "form_view.h"
+#include "report_viewer.h"
 #include "setup/master_inputs.h"
 
 // How the window looks and reads: texts that fit, the order of the Tab key, the pictures.
@@ -232,6 +233,12 @@ TEST_F(Screenshots, EveryPageOfEverySampleJob) {
   FormDriver scan;
   confirmWithEverythingShown(scan, 2);
   grabTabs(scan, "InputScan");
+  // The report's own viewer, as a room-combine save shows it.
+  FormDriver report;
+  report.confirmBoard(3);
+  ASSERT_TRUE(report.window().saveTo(QString::fromStdString((report.folder / "Report.txt").string())));
+  QTest::qWait(20);
+  EXPECT_TRUE(report.window().viewer().window()->grab().save(out_.filePath("ReportViewer.png")));
 }
 
 }  // namespace

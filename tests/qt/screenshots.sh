@@ -18,7 +18,7 @@ for script in "$source_dir"/examples/*.pellam; do
   (cd "$work/$name" && "$build/apps/cli/pellam" run "$script" >/dev/null)
 done
 mkdir -p "$work/samples"
-find "$work" -path "$work/samples" -prune -o -name '*.zpd' -exec cp {} "$work/samples/" \;
+find "$work" -path "$work/samples" -prune -o \( -name '*.zpd' -o -name '*Labels.txt' \) -exec cp {} "$work/samples/" \;
 if [ -x "$build/bench/qt/pellam_qt_bench" ]; then
   QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR="$work/runtime" "$build/bench/qt/pellam_qt_bench" maximal "$work/samples"
 fi

@@ -70,6 +70,22 @@ void NamingPage::fillLists() {
   form_.ComboBox61.setItems(numbers);
 }
 
+void NamingPage::clear() {
+  names_ = {};
+  form_.ListBox12.clear();
+  form_.ComboBox58.clear();
+}
+
+void NamingPage::listDecoded() {
+  form_.ListBox12.clear();
+  form_.ComboBox58.clear();
+  for (std::size_t i = 0; i < names_.names.size(); ++i) {
+    const int number = static_cast<int>(i);
+    if (!names_.names[i].RoomLabel.empty()) ListRoomLabel(number, std::to_string(number));
+    if (!names_.names[i].GroupLabel.empty()) ListGroupLabel(number, std::to_string(number));
+  }
+}
+
 void NamingPage::ListRoomLabel(int room, const std::string& numberText) {
   form_.ListBox12.addItem(labelLine(numberText, recordOf(names_, room).RoomLabel));
 }

@@ -23,6 +23,9 @@ class NamingPage final : public ui::EditorPage {
 
   // The page's number lists, filled at start-up with the other choice lists.
   void fillLists() override;
+  // A new job has no labels; an opened one lists those read beside its image.
+  void clear() override;
+  void listDecoded() override;
 
  private:
   void ListRoomLabel(int room, const std::string& numberText);

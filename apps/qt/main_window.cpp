@@ -8,9 +8,11 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QScrollArea>
+#include <QStatusBar>
 
 #include "component/job_files.h"
 #include "form_view.h"
+#include "upload_progress.h"
 
 namespace pellam::qt {
 
@@ -37,11 +39,22 @@ MainWindow::MainWindow(QWidget* parent)
   buildMenu();
   // The transfer runs on a thread of its own; what it tells the form comes back through the
   // event loop, so no handler runs in the middle of another.
+  // A closed window has cancelled its transfer and shows nothing more of it.
   session_.uploadPage.postToFace = [this](std::function<void()> done) {
-    QMetaObject::invokeMethod(this, std::move(done), Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this, done = std::move(done)] { if (!closing_) done(); }, Qt::QueuedConnection);
   };
+  // The upload sends the job on disk, so the one on screen is saved first.
+  session_.form.CommandButton27.onClick = [this, upload = std::move(session_.form.CommandButton27.onClick)] {
+    if (!session_.modified()) return upload();
+    const auto answer = QMessageBox::question(this, tr("Pellam Setup"),
+                                              tr("The upload sends the job as saved. Save the changes first?"),
+                                              QMessageBox::Save | QMessageBox::Cancel);
+    if (answer == QMessageBox::Save && save()) upload();
+  };
+  new UploadProgress(*this, session_.uploadPage);
   const QSize form = view_->minimumSize();
-  resize(form.width() + 4, form.height() + menuBar()->sizeHint().height() + 4);
+  resize(form.width() + 4, form.height() + menuBar()->sizeHint().height() + statusBar()->sizeHint().height() + 4);
   updateTitle();
 }
 
@@ -148,6 +161,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     return;
   }
+  closing_ = true;
+  session_.uploadPage.cancel();
   class1_.Unload_Pellam_Form();
   event->accept();
 }

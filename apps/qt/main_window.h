@@ -50,6 +50,7 @@ class MainWindow final : public QMainWindow {
   FormView* view_;
   QString jobPath_;  // the .txt a save goes to
   bool fresh_ = false;  // start-up has run and nothing changed since
+  bool closing_ = false;
 };
 
 }  // namespace pellam::qt

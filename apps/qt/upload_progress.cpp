@@ -1,0 +1,41 @@
+#include "upload_progress.h"
+
+#include <algorithm>
+
+#include <QHBoxLayout>
+#include <QMainWindow>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QStatusBar>
+
+#include "component/upload_page.h"
+
+namespace pellam::qt {
+
+UploadProgress::UploadProgress(QMainWindow& window, component::UploadPage& page)
+    : bar_(new QProgressBar), cancel_(new QPushButton(tr("Cancel"))) {
+  setObjectName("UploadProgress");
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  bar_->setFormat(tr("Uploading %p%"));
+  bar_->setMaximumWidth(200);
+  cancel_->setToolTip(tr("Stop the upload now"));
+  row->addWidget(bar_);
+  row->addWidget(cancel_);
+  connect(cancel_, &QPushButton::clicked, this, [this, &page] {
+    page.cancel();
+    cancel_->setEnabled(false);
+  });
+  page.onProgress = [this](const component::UploadPage::Progress& p) {
+    setVisible(p.running);
+    if (!p.running) cancel_->setEnabled(true);
+    // A transport that cannot count the bytes shows a busy bar.
+    const int total = static_cast<int>(std::min<long long>(p.total, 1 << 30));
+    bar_->setRange(0, total);
+    if (total > 0) bar_->setValue(static_cast<int>(std::min<long long>(p.sent, total)));
+  };
+  window.statusBar()->addPermanentWidget(this);
+  hide();
+}
+
+}  // namespace pellam::qt

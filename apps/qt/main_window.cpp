@@ -8,7 +8,6 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QScrollArea>
-#include <QStatusBar>
 
 #include "component/job_files.h"
 #include "form_view.h"
@@ -54,7 +53,7 @@ MainWindow::MainWindow(QWidget* parent)
   };
   new UploadProgress(*this, session_.uploadPage);
   const QSize form = view_->minimumSize();
-  resize(form.width() + 4, form.height() + menuBar()->sizeHint().height() + statusBar()->sizeHint().height() + 4);
+  resize(form.width() + 4, form.height() + menuBar()->sizeHint().height() + 4);
   updateTitle();
 }
 

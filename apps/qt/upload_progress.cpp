@@ -5,24 +5,27 @@
 #include <QHBoxLayout>
 #include <QMainWindow>
 #include <QProgressBar>
-#include <QPushButton>
-#include <QStatusBar>
+#include <QMenuBar>
+#include <QToolButton>
 
 #include "component/upload_page.h"
 
 namespace pellam::qt {
 
 UploadProgress::UploadProgress(QMainWindow& window, component::UploadPage& page)
-    : bar_(new QProgressBar), cancel_(new QPushButton(tr("Cancel"))) {
+    : bar_(new QProgressBar), cancel_(new QToolButton) {
   setObjectName("UploadProgress");
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   bar_->setFormat(tr("Uploading %p%"));
   bar_->setMaximumWidth(200);
+  bar_->setMaximumHeight(fontMetrics().height() + 2);
+  cancel_->setText(tr("Cancel"));
+  cancel_->setAutoRaise(true);
   cancel_->setToolTip(tr("Stop the upload now"));
   row->addWidget(bar_);
   row->addWidget(cancel_);
-  connect(cancel_, &QPushButton::clicked, this, [this, &page] {
+  connect(cancel_, &QToolButton::clicked, this, [this, &page] {
     page.cancel();
     cancel_->setEnabled(false);
   });
@@ -34,7 +37,7 @@ UploadProgress::UploadProgress(QMainWindow& window, component::UploadPage& page)
     bar_->setRange(0, total);
     if (total > 0) bar_->setValue(static_cast<int>(std::min<long long>(p.sent, total)));
   };
-  window.statusBar()->addPermanentWidget(this);
+  window.menuBar()->setCornerWidget(this, Qt::TopRightCorner);
   hide();
 }
 

@@ -4,7 +4,7 @@
 
 class QMainWindow;
 class QProgressBar;
-class QPushButton;
+class QToolButton;
 
 namespace pellam::component {
 class UploadPage;
@@ -12,18 +12,18 @@ class UploadPage;
 
 namespace pellam::qt {
 
-// The running upload in the window's status bar: how far it got and a Cancel that ends it at
-// once. Hidden while no transfer runs.
+// The running upload at the end of the window's menu bar, where it takes no room from the form:
+// how far it got and a Cancel that ends it at once. Hidden while no transfer runs.
 class UploadProgress final : public QWidget {
  public:
   UploadProgress(QMainWindow& window, component::UploadPage& page);
 
   QProgressBar* bar() const { return bar_; }
-  QPushButton* cancelButton() const { return cancel_; }
+  QToolButton* cancelButton() const { return cancel_; }
 
  private:
   QProgressBar* bar_;
-  QPushButton* cancel_;
+  QToolButton* cancel_;
 };
 
 }  // namespace pellam::qt

@@ -1,4 +1,4 @@
-#include <QPushButton>
+#include <QToolButton>
 #include <QTest>
 #include <gmock/gmock.h>
 

@@ -89,10 +89,11 @@ struct Call {
   }
 
   // What the command-line client prints when it got no further than the login.
-  std::string clientNote(const TransferJob& job, const std::string& said) {
+  std::string clientNote(const TransferJob& job, const std::string& said) const {
     switch (error) {
       case ERROR_INTERNET_NAME_NOT_RESOLVED: return "Unknown host " + job.address.host + ".\r\n";
       case ERROR_INTERNET_LOGIN_FAILURE: return "Connected to " + job.address.host + ".\r\n" + said + "Login failed.\r\n";
+      case ERROR_INTERNET_CANNOT_CONNECT: return "Not connected.\r\n";
       default: return said.empty() ? "Not connected.\r\n" : said;
     }
   }

@@ -49,8 +49,8 @@ struct TransferResult {
   long long bytesTotal = 0;
   TransferFailure failure = TransferFailure::None;
   std::string why;  // what failed, for a person; empty when completed
-  // False when the transport is given only some of the controller's replies (WinINet keeps
-  // those of a failing call): a confirmed transfer then stands for the words it did not see.
+  // False when the transport is given only some of the controller's replies (WinINet keeps the
+  // last one of each call): a confirmed transfer then stands for the words it did not see.
   bool wholeDialogue = true;
 };
 

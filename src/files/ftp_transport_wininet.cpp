@@ -1,6 +1,7 @@
 // Windows: the controller's FTP service through WinINet. Its calls block, so they run on a
 // thread of their own while this one ticks, and a cancel or the time-out closes the handles
-// under them, which WinINet documents as the way to end a call in progress.
+// under them, which WinINet documents as the way to end a call in progress. FtpPutFile, not
+// FtpOpenFile, because only it tells whether the controller confirmed the file.
 #include <windows.h>
 #include <wininet.h>
 
@@ -41,8 +42,7 @@ std::string lastReplies() {
   return text;
 }
 
-// One upload's handles and what the calling thread learnt; shared with that thread, which may
-// outlive a transfer given up by time-out until WinINet lets go of it.
+// One upload's handles and what the calling thread learnt.
 struct Call {
   std::mutex lock;
   HINTERNET internet = nullptr;
@@ -106,49 +106,55 @@ class WinInetTransport final : public FtpTransport {
     const auto size = static_cast<long long>(std::filesystem::file_size(job.folder / job.fileName, ec));
     if (ec) throw std::runtime_error("cannot read " + job.fileName);
 
-    auto call = std::make_shared<Call>();
-    call->internet = InternetOpenW(L"Pellam Setup", INTERNET_OPEN_TYPE_DIRECT, nullptr, nullptr, 0);
-    if (!call->internet) throw std::runtime_error("WinINet could not start");
+    Call call;
+    call.internet = InternetOpenW(L"Pellam Setup", INTERNET_OPEN_TYPE_DIRECT, nullptr, nullptr, 0);
+    if (!call.internet) throw std::runtime_error("WinINet could not start");
     // Where WinINet heeds them; the wait below holds to the time-out either way.
     DWORD ms = static_cast<DWORD>(job.timeout.count()) * 1000;
     const DWORD options[] = {INTERNET_OPTION_CONNECT_TIMEOUT, INTERNET_OPTION_SEND_TIMEOUT,
                              INTERNET_OPTION_RECEIVE_TIMEOUT};
-    for (const DWORD option : options) InternetSetOptionW(call->internet, option, &ms, sizeof ms);
+    for (const DWORD option : options) InternetSetOptionW(call.internet, option, &ms, sizeof ms);
 
-    std::thread calling([call, job] {
-      call->run(job);
-      call->done = true;
-    });
     TransferFailure ended = TransferFailure::None;
-    const ULONGLONG deadline = GetTickCount64() + static_cast<ULONGLONG>(job.timeout.count()) * 1000;
-    while (!call->done) {
-      if (job.stop.stop_requested()) ended = TransferFailure::Cancelled;
-      if (GetTickCount64() >= deadline) ended = TransferFailure::TimedOut;
-      if (ended != TransferFailure::None) break;
-      if (tick) tick({0, size});
-      Sleep(50);
+    {
+      // Ended and waited for however this block is left, a tick that throws included.
+      const std::jthread calling([&call, &job] {
+        call.run(job);
+        call.done = true;
+      });
+      const struct Closer {
+        Call& call;
+        ~Closer() { call.close(); }
+      } closer{call};
+      const ULONGLONG deadline = GetTickCount64() + static_cast<ULONGLONG>(job.timeout.count()) * 1000;
+      while (!call.done) {
+        if (job.stop.stop_requested()) ended = TransferFailure::Cancelled;
+        if (GetTickCount64() >= deadline) ended = TransferFailure::TimedOut;
+        if (ended != TransferFailure::None) break;
+        // FtpPutFile does not say how far it got.
+        if (tick) tick({});
+        Sleep(50);
+      }
     }
-    call->close();
-    calling.join();
 
     TransferResult r;
     r.bytesTotal = size;
     r.wholeDialogue = false;
-    r.completed = ended == TransferFailure::None && call->completed;
+    r.completed = ended == TransferFailure::None && call.completed;
     r.bytesSent = r.completed ? size : 0;
     if (!r.completed) {
       r.failure = ended != TransferFailure::None                     ? ended
-                  : call->error == ERROR_INTERNET_LOGIN_FAILURE       ? TransferFailure::LoginRefused
-                  : !call->loggedIn                                   ? TransferFailure::NotReached
-                  : call->error == ERROR_INTERNET_TIMEOUT             ? TransferFailure::TimedOut
+                  : call.error == ERROR_INTERNET_LOGIN_FAILURE       ? TransferFailure::LoginRefused
+                  : !call.loggedIn                                   ? TransferFailure::NotReached
+                  : call.error == ERROR_INTERNET_TIMEOUT             ? TransferFailure::TimedOut
                                                                       : TransferFailure::Broken;
-      r.why = failureWhy(r.failure, call->replies);
+      r.why = failureWhy(r.failure, call.replies);
     }
     // Nothing from the controller at all leaves nothing to log, as on the other systems.
-    if (ended != TransferFailure::None && !call->loggedIn) return r;
+    if (ended != TransferFailure::None && !call.loggedIn) return r;
     const auto captured = job.folder / kCapturedName;
     std::ofstream out(captured, std::ios::binary | std::ios::trunc);
-    out << call->replies;
+    out << call.replies;
     out.close();
     if (!out) throw CannotWriteFile(utf8Text(captured));
     return r;

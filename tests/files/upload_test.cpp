@@ -45,10 +45,10 @@ TEST(UploadFiles, PhrasesAreTestedEachOnItsOwnInTheirOrderAndOnlyAConfirmedTrans
   const TransferResult cancelled = transferred(false, TransferFailure::Cancelled, "");
   EXPECT_EQ(uploadMessages("150 ready to take file\r\n", cancelled), Lines{"Down Load Cancelled"});
   EXPECT_EQ(uploadMessages("220 hello\r\n", cancelled), Lines{"Down Load Cancelled"});
-  // WinINet keeps only a failing call's replies: its confirmed transfer speaks for the rest.
+  // WinINet keeps only each call's last reply: its confirmed transfer speaks for the rest.
   TransferResult partial = done;
   partial.wholeDialogue = false;
-  EXPECT_EQ(uploadMessages("Connected to rqc.\r\n", partial), Lines{"Down Load Completed !!"});
+  EXPECT_EQ(uploadMessages("Connected to rqc.\r\n226 Transfer complete.\r\n", partial), Lines{"Down Load Completed !!"});
   EXPECT_EQ(uploadMessages("150 ready to take file\r\n", partial), Lines{"Down Load Completed !!"});
   EXPECT_EQ(uploadMessages("Connected to rqc.\r\n", done), Lines{}) << "a whole dialogue must say it";
 }

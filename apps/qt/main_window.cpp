@@ -37,8 +37,8 @@ MainWindow::MainWindow(QWidget* parent)
   setCentralWidget(scroll);
   buildMenu();
   // The transfer runs on a thread of its own; what it tells the form comes back through the
-  // event loop, so no handler runs in the middle of another.
-  // A closed window has cancelled its transfer and shows nothing more of it.
+  // event loop, so no handler runs in the middle of another. A closed window has cancelled its
+  // transfer and shows nothing more of it.
   session_.uploadPage.postToFace = [this](std::function<void()> done) {
     QMetaObject::invokeMethod(
         this, [this, done = std::move(done)] { if (!closing_) done(); }, Qt::QueuedConnection);

@@ -32,22 +32,22 @@ trap '[ ${#sims[@]} = 0 ] || kill "${sims[@]}" 2>/dev/null; [ -n "${KEEP:-}" ] |
 # The controller's FTP service for pellam.exe's upload through WinINet: one simulator per
 # behaviour on the host's loopback, which the chroot shares. Each line of controllers.txt is
 # what the leg uploads: a name, the net id and the port.
-controller() {  # controller NAME ARGS...
-  local name=$1 port=
+controller() {  # controller NAME ARGS...: its port lands in $work/sim-NAME/port
+  local name=$1
   shift
   mkdir -p "$work/sim-$name/disk"
   /usr/bin/python3 tests/support/controller_sim.py --port-file "$work/sim-$name/port" --root "$work/sim-$name/disk" \
     "$@" >/dev/null 2>&1 &
   sims+=($!)
   for _ in $(seq 150); do [ -s "$work/sim-$name/port" ] && break; sleep 0.1; done
-  cat "$work/sim-$name/port"
 }
-taking=$(controller taking --stations=5)
-refusing=$(controller refusing --stations=5 --refuse-login)
-failing=$(controller failing --stations=5 --fail-after-transfer)
+controller taking --stations=5
+controller refusing --stations=5 --refuse-login
+controller failing --stations=5 --fail-after-transfer
+port() { cat "$work/sim-$1/port"; }
 closed=$(/usr/bin/python3 -c 'import socket; s = socket.socket(); s.bind(("127.0.0.1", 0)); print(s.getsockname()[1])')
-printf '%s\n' "completed 5 $taking" "completed-again 5 $taking" "no-station 6 $taking" "login-refused 5 $refusing" \
-  "451-after-data 5 $failing" "unreachable 5 $closed" >"$work/controllers.txt"
+printf '%s\n' "completed 5 $(port taking)" "completed-again 5 $(port taking)" "no-station 6 $(port taking)" \
+  "login-refused 5 $(port refusing)" "451-after-data 5 $(port failing)" "unreachable 5 $closed" >"$work/controllers.txt"
 
 # Linux's side: the sample jobs from examples/, each opened and saved again as the host does.
 linux=$work/linux

@@ -11,7 +11,7 @@ bench=0
 [ "${1:-}" = --bench ] && bench=1
 t0=$(date +%s)
 ensure_packages cmake ninja-build g++ libcurl4-openssl-dev g++-mingw-w64-i686 g++-mingw-w64-x86-64 mingw-w64-tools \
-  wine wine64 libwine-dev fonts-wine debootstrap || exit 1
+  wine wine64 libwine-dev fonts-wine debootstrap python3-pyftpdlib || exit 1
 echo "== COM: packages $(( $(date +%s) - t0 )) s"
 
 set -e
@@ -26,7 +26,28 @@ pellam=$PWD/build/dev/apps/cli/pellam
 
 # No dot in the folder: a job path is cut at its first dot.
 work=$(mktemp -d /tmp/pellam-com-XXXXXX)
-trap '[ -n "${KEEP:-}" ] || rm -rf "$work"' EXIT
+sims=()
+trap '[ ${#sims[@]} = 0 ] || kill "${sims[@]}" 2>/dev/null; [ -n "${KEEP:-}" ] || rm -rf "$work"' EXIT
+
+# The controller's FTP service for pellam.exe's upload through WinINet: one simulator per
+# behaviour on the host's loopback, which the chroot shares. Each line of controllers.txt is
+# what the leg uploads: a name, the net id and the port.
+controller() {  # controller NAME ARGS...: its port lands in $work/sim-NAME/port
+  local name=$1
+  shift
+  mkdir -p "$work/sim-$name/disk"
+  /usr/bin/python3 tests/support/controller_sim.py --port-file "$work/sim-$name/port" --root "$work/sim-$name/disk" \
+    "$@" >/dev/null 2>&1 &
+  sims+=($!)
+  for _ in $(seq 150); do [ -s "$work/sim-$name/port" ] && break; sleep 0.1; done
+}
+controller taking --stations=5
+controller refusing --stations=5 --refuse-login
+controller failing --stations=5 --fail-after-transfer
+port() { cat "$work/sim-$1/port"; }
+closed=$(/usr/bin/python3 -c 'import socket; s = socket.socket(); s.bind(("127.0.0.1", 0)); print(s.getsockname()[1])')
+printf '%s\n' "completed 5 $(port taking)" "completed-again 5 $(port taking)" "no-station 6 $(port taking)" \
+  "login-refused 5 $(port refusing)" "451-after-data 5 $(port failing)" "unreachable 5 $closed" >"$work/controllers.txt"
 
 # Linux's side: the sample jobs from examples/, each opened and saved again as the host does.
 linux=$work/linux
@@ -52,6 +73,8 @@ stage() {  # stage WIDTH FOLDER
   mkdir -p "$2"
   cp "$build/apps/win/Pellam.dll" "$build/apps/win/pellam_vtable_client.exe" tests/com/*.{vbs,js,answers,sh,txt} examples/*.vbs "$2/"
   cp -r "$linux/samples" "$2/"
+  cp "$build/apps/cli/pellam.exe" "$work/controllers.txt" "$2/"
+  cp "$linux/samples/Theatre.zpd" "$2/Upload.zpd"
   [ $bench = 0 ] || cp -r "$work/maximal" "$2/"
   [ "$1" = 64 ] || cp build/mingw/apps/win/Pellam.dll "$2/Pellam64.dll"
 }
@@ -89,6 +112,10 @@ judge() {  # judge WIDTH RESULTS
     check "$width-bit $s" "tests/com/expected/$s.out" "$r/$s.txt"
   done
   [ "$width" = 64 ] || check "both widths registered" tests/com/expected/both_widths.out "$r/both_widths.txt"
+  check "$width-bit upload" tests/com/expected/upload.out "$r/upload.txt"
+  check "$width-bit upload arrived whole" <(od -An -tx1 "$linux/samples/Theatre.zpd") \
+    <(od -An -tx1 "$work/sim-taking/disk/Q9z5.zpd" 2>&1)
+  rm -f "$work/sim-taking/disk/Q9z5.zpd"
   for f in "$linux"/saved/*; do
     check "$width-bit saved $(basename "$f") as on Linux" <(od -An -tx1 "$f") <(od -An -tx1 "$r/out/windows/$(basename "$f")")
     # the job saved through the form members is the opened sample itself

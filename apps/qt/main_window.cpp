@@ -23,6 +23,7 @@
 #include "component/keep_work.h"
 #include "files/save_job.h"
 #include "form_view.h"
+#include "upload_progress.h"
 
 namespace pellam::qt {
 
@@ -76,15 +77,20 @@ MainWindow::MainWindow(QWidget* parent, QString dataFolder)
   buildActions();
   keepWork();
   // The transfer runs on a thread of its own; what it tells the form comes back through the
-  // event loop, so no handler runs in the middle of another.
+  // event loop, so no handler runs in the middle of another. A closed window has cancelled its
+  // transfer and shows nothing more of it.
   session_.uploadPage.postToFace = [this](std::function<void()> done) {
-    QMetaObject::invokeMethod(this, std::move(done), Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this, done = std::move(done)] { if (!closing_) done(); }, Qt::QueuedConnection);
   };
-  uploadWatch_ = session_.form.observe([this](const ui::Control* control) {
-    if (control == &session_.form.CommandButton27 || !control) {
-      uploadLabel_->setText(session_.form.CommandButton27.visible() ? QString() : tr("Uploading..."));
-    }
-  });
+  // The upload sends the job on disk, so the one on screen is saved first.
+  session_.form.CommandButton27.onClick = [this, upload = std::move(session_.form.CommandButton27.onClick)] {
+    if (!session_.modified()) return upload();
+    const auto answer = QMessageBox::question(this, tr("Pellam Setup"),
+                                              tr("The upload sends the job as saved. Save the changes first?"),
+                                              QMessageBox::Save | QMessageBox::Cancel);
+    if (answer == QMessageBox::Save && save()) upload();
+  };
   // Not while a box is up: a handler waiting for its answer has not finished changing the job.
   connect(&recoveryTimer_, &QTimer::timeout, this, guarded(session_.form, [this] {
     if (!QApplication::activeModalWidget()) recovery_.keep();
@@ -147,16 +153,16 @@ void MainWindow::buildActions() {
   status_->setSizeGripEnabled(false);
   jobLabel_ = new QLabel;
   savedLabel_ = new QLabel;
-  uploadLabel_ = new QLabel;
+  auto* progress = new UploadProgress(session_.uploadPage);
   // Fixed widths: the menu bar sizes its corner once, and the texts come later.
   const QFontMetrics metrics = fontMetrics();
   jobLabel_->setFixedWidth(kJobLabelWidth + 8);
-  uploadLabel_->setFixedWidth(metrics.horizontalAdvance(tr("Uploading...")) + 8);
   savedLabel_->setFixedWidth(metrics.horizontalAdvance(tr("Unsaved changes")) + 8);
   status_->addWidget(jobLabel_, 1);
-  status_->addPermanentWidget(uploadLabel_);
+  status_->addPermanentWidget(progress);
   status_->addPermanentWidget(savedLabel_);
-  status_->setMinimumWidth(status_->sizeHint().width());
+  // Room for the upload's progress, which shows only while a transfer runs.
+  status_->setMinimumWidth(status_->sizeHint().width() + progress->width());
   auto* strip = new QWidget;
   auto* layout = new QHBoxLayout(strip);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -330,6 +336,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     return;
   }
+  closing_ = true;
+  session_.uploadPage.cancel();
   recoveryTimer_.stop();
   recovery_.drop();
   class1_.Unload_Pellam_Form();

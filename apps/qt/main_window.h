@@ -74,9 +74,8 @@ class MainWindow final : public QMainWindow {
   QStatusBar* status_ = nullptr;
   QLabel* jobLabel_ = nullptr;
   QLabel* savedLabel_ = nullptr;
-  QLabel* uploadLabel_ = nullptr;
-  ui::UserForm1::Subscription uploadWatch_;
   bool fresh_ = false;  // start-up has run and nothing changed since
+  bool closing_ = false;
 };
 
 }  // namespace pellam::qt

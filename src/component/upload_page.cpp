@@ -21,8 +21,15 @@ UploadPage::UploadPage(Session& session)
   s_.form.CommandButton27.onClick = [this] { Upload(); };
 }
 
+// A face that goes away takes its transfer with it.
 UploadPage::~UploadPage() {
+  cancel();
   if (worker_.joinable()) worker_.join();
+}
+
+void UploadPage::cancel() {
+  const std::lock_guard lock(stopLock_);
+  stop_.request_stop();
 }
 
 // The file clicked in the job list, or else the job last saved or opened.
@@ -76,13 +83,19 @@ UploadPage::Result UploadPage::upload(const Order& order) {
   request.image = std::move(job.bytes);
 
   busy_ = true;
+  std::stop_token stop;
+  {
+    const std::lock_guard lock(stopLock_);
+    stop_ = std::stop_source();
+    stop = stop_.get_token();
+  }
   f.Label60.setCaption("Starting Up Load Please Wait");
   f.Label60.setVisible(true);
   f.CommandButton27.setVisible(false);
   // Any error of the transfer is the upload's own failure, whatever threw it.
-  auto transfer = [this, request = std::move(request)](const files::TransferTick& tick) {
+  auto transfer = [this, request = std::move(request), stop](const files::TransferTick& tick) {
     try {
-      return files::UploadImage(request, *transport, s_.clock(), tick);
+      return files::UploadImage(request, *transport, s_.clock(), tick, stop);
     } catch (const std::exception&) {
       return files::UploadOutcome{false, {}, {"RQC Connection Time Out"}};
     }
@@ -95,19 +108,24 @@ UploadPage::Result UploadPage::upload(const Order& order) {
     return false;
   };
   const auto toggle = [this] { s_.form.Label60.setVisible(!s_.form.Label60.visible()); };
+  const auto progress = [this](const files::TransferProgress& p) {
+    if (onProgress) onProgress({true, p.sent, p.total});
+  };
 
   if (!postToFace) {
-    const files::UploadOutcome outcome = transfer([&](const files::TransferProgress&) {
+    const files::UploadOutcome outcome = transfer([&](const files::TransferProgress& p) {
       if (blink()) toggle();
+      progress(p);
       if (keepResponsive) keepResponsive();
     });
     return finish(outcome);
   }
   // The face's own thread only draws: the form is touched in what is posted to it.
   if (worker_.joinable()) worker_.join();
-  worker_ = std::thread([this, post = postToFace, transfer = std::move(transfer), blink, toggle]() mutable {
-    files::UploadOutcome outcome = transfer([&](const files::TransferProgress&) {
+  worker_ = std::thread([this, post = postToFace, transfer = std::move(transfer), blink, toggle, progress]() mutable {
+    files::UploadOutcome outcome = transfer([&](const files::TransferProgress& p) {
       if (blink()) post(toggle);
+      post([progress, p] { progress(p); });
     });
     post([this, outcome = std::move(outcome)] { finish(outcome); });
   });
@@ -123,6 +141,7 @@ UploadPage::Result UploadPage::finish(const files::UploadOutcome& outcome) {
   f.CommandButton27.setVisible(true);
   if (!result.logPath.empty()) f.Label62.setCaption(result.logPath);
   busy_ = false;
+  if (onProgress) onProgress({});
   for (const std::string& message : outcome.messages) s_.dialogs().msgBox(message, ui::Buttons::OK);
   if (onUploaded) onUploaded(result);
   return result;

@@ -2,6 +2,8 @@
 
 #include <functional>
 #include <memory>
+#include <mutex>
+#include <stop_token>
 #include <string>
 #include <thread>
 
@@ -40,6 +42,17 @@ class UploadPage {
   std::function<void(std::function<void()>)> postToFace;
   // Told each upload's result once its messages were shown.
   std::function<void(const Result&)> onUploaded;
+  // Told on the face's thread while a transfer runs, about ten times a second, and once more
+  // when it has ended, before its outcome is shown.
+  struct Progress {
+    bool running = false;
+    long long sent = 0;
+    long long total = 0;  // 0 while the transport does not know
+  };
+  std::function<void(const Progress&)> onProgress;
+  // Ends the running transfer at once ("Down Load Cancelled"); the log and the working folder
+  // are dealt with as for any other ending. Does nothing when no transfer runs. Any thread.
+  void cancel();
 
   // CommandButton27: the order as the upload frame holds it.
   void Upload();
@@ -57,6 +70,8 @@ class UploadPage {
   std::string imageToSend() const;
   Result finish(const files::UploadOutcome& outcome);
   std::thread worker_;
+  std::mutex stopLock_;
+  std::stop_source stop_;
   Session& s_;
   bool busy_ = false;
 };

@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <stdexcept>
+#include <stop_token>
 #include <string>
 #include <utility>
 
@@ -20,6 +21,7 @@ struct TransferJob {
   ControllerAddress address;
   std::string login;
   std::chrono::seconds timeout{10};
+  std::stop_token stop;  // the person cancelled: the transfer ends at once
 };
 
 struct TransferProgress {
@@ -36,6 +38,7 @@ enum class TransferFailure {
   LoginRefused,
   TimedOut,
   Broken,        // reached and logged in, but the file was not confirmed whole
+  Cancelled,     // the person stopped it
 };
 
 // What the transport knows, not what the dialogue's texts suggest: a greeting or a reply may
@@ -46,6 +49,9 @@ struct TransferResult {
   long long bytesTotal = 0;
   TransferFailure failure = TransferFailure::None;
   std::string why;  // what failed, for a person; empty when completed
+  // False when the transport is given only some of the controller's replies (WinINet keeps the
+  // last one of each call): a confirmed transfer then stands for the words it did not see.
+  bool wholeDialogue = true;
 };
 
 // A file of our own that could not be made or written; the path is named to the person.
@@ -63,7 +69,7 @@ class FtpTransport {
   virtual TransferResult run(const TransferJob& job, const TransferTick& tick) = 0;
 };
 
-// libcurl where it is built in; on Windows the batch file and the system's ftp client.
+// libcurl where it is built in; on Windows WinINet's FTP functions.
 std::unique_ptr<FtpTransport> makeSystemFtpTransport();
 
 }  // namespace pellam::files

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <memory>
 #include <mutex>
+#include <stop_token>
 
 #include "files/ftp_transport.h"
 #include "files/job_paths.h"
@@ -21,6 +22,7 @@ struct Transfer {
   std::string replies;
   std::ifstream file;
   TransferProgress progress;
+  std::stop_token stop;
 };
 
 int onDebug(CURL*, curl_infotype type, char* data, size_t size, void* user) {
@@ -34,11 +36,12 @@ size_t onRead(char* buffer, size_t size, size_t count, void* user) {
   return static_cast<size_t>(t.file.gcount());
 }
 
+// A non-zero answer makes libcurl give up the transfer at once.
 int onProgress(void* user, curl_off_t, curl_off_t, curl_off_t ultotal, curl_off_t ulnow) {
-  auto& p = static_cast<Transfer*>(user)->progress;
-  p.sent = ulnow;
-  p.total = ultotal;
-  return 0;
+  auto& t = *static_cast<Transfer*>(user);
+  t.progress.sent = ulnow;
+  t.progress.total = ultotal;
+  return t.stop.stop_requested() ? 1 : 0;
 }
 
 // What the command-line client prints when it never reached the controller.
@@ -62,6 +65,7 @@ class CurlTransport final : public FtpTransport {
     std::call_once(global, [] { curl_global_init(CURL_GLOBAL_DEFAULT); });
 
     Transfer t;
+    t.stop = job.stop;
     t.file.open(job.folder / job.fileName, std::ios::binary);
     if (!t.file) throw std::runtime_error("cannot read " + job.fileName);
     t.file.seekg(0, std::ios::end);
@@ -95,6 +99,8 @@ class CurlTransport final : public FtpTransport {
     curl_easy_setopt(e, CURLOPT_LOW_SPEED_TIME, seconds);
     curl_easy_setopt(e, CURLOPT_NOSIGNAL, 1L);
     curl_multi_add_handle(multi.get(), e);
+    // A cancel wakes the wait below, so the transfer ends now and not at the next poll.
+    const std::stop_callback wake(job.stop, [m = multi.get()] { curl_multi_wakeup(m); });
 
     int running = 1;
     while (running) {
@@ -119,14 +125,15 @@ class CurlTransport final : public FtpTransport {
     // CURLE_OK on an upload means the controller's final reply, after the data, was positive.
     r.completed = code == CURLE_OK && uploaded == size;
     if (!r.completed) {
-      r.failure = code == CURLE_OPERATION_TIMEDOUT ? TransferFailure::TimedOut
-                  : code == CURLE_LOGIN_DENIED     ? TransferFailure::LoginRefused
+      r.failure = code == CURLE_OPERATION_TIMEDOUT    ? TransferFailure::TimedOut
+                  : code == CURLE_ABORTED_BY_CALLBACK ? TransferFailure::Cancelled
+                  : code == CURLE_LOGIN_DENIED        ? TransferFailure::LoginRefused
                   : !note.empty()                  ? TransferFailure::NotReached
                                                    : TransferFailure::Broken;
       r.why = failureWhy(r.failure, t.replies);
     }
     // A controller that never said a word leaves nothing to log, as the client would.
-    if (r.failure == TransferFailure::TimedOut && t.replies.empty()) return r;
+    if (!r.completed && t.replies.empty() && note.empty()) return r;
     const auto captured = job.folder / kCapturedName;
     std::ofstream out(captured, std::ios::binary | std::ios::trunc);
     out << t.replies << note;

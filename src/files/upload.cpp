@@ -1,11 +1,13 @@
 #include "files/upload.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <fstream>
 #include <optional>
 #include <sstream>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 #include "files/date_text.h"
 #include "files/job_paths.h"
@@ -20,6 +22,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kCompleted = "Down Load Completed !!";
+constexpr const char* kCancelled = "Down Load Cancelled";
 
 void writeWhole(const fs::path& path, const char* data, std::size_t size) {
   std::ofstream out(path, std::ios::binary | std::ios::trunc);
@@ -44,6 +47,7 @@ std::string failureMessage(const TransferResult& transfer) {
     case TransferFailure::NotReached: return "RQC Not Found Check IP Address";
     case TransferFailure::LoginRefused: return "RQC Login Refused";
     case TransferFailure::TimedOut: return "RQC Connection Time Out";
+    case TransferFailure::Cancelled: return kCancelled;
     default: return "Down Load Not Completed: " + transfer.why;
   }
 }
@@ -77,17 +81,21 @@ std::vector<std::string> uploadMessages(const std::string& captured, const Trans
   for (const auto& [phrase, message] : kPhrases) {
     if (captured.find(phrase) == std::string::npos) continue;
     if (std::string_view(message) == kCompleted && !transfer.completed) {
-      messages.push_back("Down Load Not Completed: " + transfer.why);
+      messages.push_back(transfer.failure == TransferFailure::Cancelled ? kCancelled
+                                                                         : "Down Load Not Completed: " + transfer.why);
     } else {
       messages.emplace_back(message);
     }
   }
   if (!transfer.completed && messages.empty()) messages.push_back(failureMessage(transfer));
+  if (transfer.completed && !transfer.wholeDialogue && std::ranges::find(messages, kCompleted) == messages.end()) {
+    messages.emplace_back(kCompleted);
+  }
   return messages;
 }
 
 UploadOutcome UploadImage(const UploadRequest& request, FtpTransport& transport, ui::Clock& clock,
-                          const TransferTick& tick) {
+                          const TransferTick& tick, std::stop_token stop) {
   const fs::path image = fsPath(request.imagePath);
   const fs::path logPath = (image.parent_path().empty() ? fs::path(".") : image.parent_path()) / kUploadLogName;
   const std::string fileName = utf8Text(image.filename());
@@ -101,7 +109,8 @@ UploadOutcome UploadImage(const UploadRequest& request, FtpTransport& transport,
     writeWhole(work.path() / kFtpBatchName, ftpBatch(request.addressText));
     const TransferResult transfer = transport.run({work.path(), fileName, remote, request.address,
                                                    request.settings.login,
-                                                   std::chrono::seconds(request.settings.timeoutSeconds)},
+                                                   std::chrono::seconds(request.settings.timeoutSeconds),
+                                                   std::move(stop)},
                                                   tick);
     outcome.completed = transfer.completed;
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -45,8 +46,8 @@ struct UploadOutcome {
 
 // Writes the working files in a folder of this upload's own, runs the transfer, logs and
 // evaluates what the controller said, and removes the folder whatever happened. A file that
-// cannot be written is named in the messages.
+// cannot be written is named in the messages. A stop ends the transfer at once, as cancelled.
 UploadOutcome UploadImage(const UploadRequest& request, FtpTransport& transport, ui::Clock& clock,
-                          const TransferTick& tick);
+                          const TransferTick& tick, std::stop_token stop = {});
 
 }  // namespace pellam::files

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # One width of the COM tests, run where that width of Wine is (the host or the chroot):
 #   leg.sh 32|64 STAGE
-# STAGE holds Pellam.dll, pellam_vtable_client.exe, the host scripts and samples/; what the
-# scripts print and the files they save land in STAGE/results. Nothing here judges: the
-# caller compares.
+# STAGE holds Pellam.dll, pellam_vtable_client.exe, the host scripts and samples/, and for the
+# upload pellam.exe, Upload.zpd and controllers.txt; what the scripts print and the files they
+# save land in STAGE/results. Nothing here judges: the caller compares.
 set -uo pipefail
 width=$1 stage=$2
 export WINEPREFIX=$stage/prefix WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
@@ -103,6 +103,17 @@ if [ -d "$c/maximal" ]; then
   mkdir -p "$c/out/maximal"
   w "$cscript" //nologo 'C:\pellam\save_maximal.vbs' >"$results/save_maximal.txt"
 fi
+# pellam.exe's upload through WinINet to the controllers the caller started on loopback.
+mkdir -p "$c/upload"
+cp "$stage/pellam.exe" "$c/" && cp "$stage/Upload.zpd" "$c/upload/Lobby.zpd"
+while read -r name netid port; do
+  echo "-- $name"
+  w 'C:\pellam\pellam.exe' upload 'C:\pellam\upload\Lobby.zpd' --netid "$netid" --to "127.0.0.1:$port" </dev/null
+  echo "exit ${PIPESTATUS[0]}"
+done <"$stage/controllers.txt" >"$results/upload.txt"
+echo "-- the log, without its dates and times" >>"$results/upload.txt"
+grep -v '^Date \|^Time ' "$c/upload/RQCLog.txt" | tr -d '\r' >>"$results/upload.txt"
+
 cp -r "$c/out" "$results/out"
 echo "leg $(( $(date +%s) - started )) s" >>"$results/times.txt"
 timeout 30 wineserver -k 2>/dev/null

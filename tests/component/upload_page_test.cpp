@@ -181,6 +181,7 @@ TEST_F(UploadPageTest, EveryOutcomeHasItsMessageAndOneLogEntry) {
     std::string message;
     std::string logged;
     std::string address;  // instead of the controller's
+    bool cancelOnceTaken = false;  // the person cancels once the controller has every byte
   };
   const std::string closed = "127.0.0.1:" + std::to_string(testing::closedPort());
   const Case cases[] = {
@@ -197,12 +198,27 @@ TEST_F(UploadPageTest, EveryOutcomeHasItsMessageAndOneLogEntry) {
        {.stations = {5}, .greeting = "RQC ready to take file", .refuseLogin = true},
        "Down Load Not Completed: the controller refused the login", "530", ""},
       {"refuses the login", {.stations = {5}, .refuseLogin = true}, "RQC Login Refused", "530", ""},
+      {"never confirms, and the person cancels", {.stations = {5}, .stall = true}, "Down Load Cancelled",
+       "150 ready to take file", "", true},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.fault);
     fs::remove(job.file("RQCLog.txt"));
     ControllerSim controller(c.options);
+    // A person at another window: any thread may cancel.
+    std::jthread person;
+    if (c.cancelOnceTaken) {
+      person = std::jthread([&](std::stop_token gone) {
+        const fs::path taken = controller.received() / "Q9z5.zpd";
+        std::error_code ec;
+        while (!gone.stop_requested() && fs::file_size(taken, ec) != image.size()) {
+          std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        }
+        page().cancel();
+      });
+    }
     upload(5, c.address.empty() ? address(controller) : c.address);
+    person = {};
     EXPECT_EQ(desk.shown(), Lines{okBox(c.message)});
     EXPECT_FALSE(page().lastCompleted);
     EXPECT_EQ(log().rfind(std::string(46, '*'), 0), 0u) << "the dialogue is logged once";

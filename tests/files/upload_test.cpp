@@ -5,7 +5,6 @@
 
 #include "files/controller_address.h"
 #include "files/controller_settings.h"
-#include "files/transfer_result.h"
 #include "files/upload.h"
 #include "support/desk.h"
 
@@ -43,38 +42,15 @@ TEST(UploadFiles, PhrasesAreTestedEachOnItsOwnInTheirOrderAndOnlyAConfirmedTrans
   EXPECT_EQ(uploadMessages("220 hello\r\n", cut), Lines{"Down Load Not Completed: why"});
   EXPECT_EQ(uploadMessages("530 Login incorrect.\r\n", transferred(false, TransferFailure::LoginRefused, "")),
             Lines{"RQC Login Refused"});
-}
-
-// The Windows ftp client's console output is all there is to tell a transfer's end by.
-TEST(UploadFiles, TheSystemClientsOutputCompletesOnlyOn226AndEveryByteSent) {
-  const std::string greeting = "Connected to 10.0.0.7.\r\n220 RQC\r\nUser (10.0.0.7:(none)): \r\n230 Logged in.\r\n";
-  const std::string put = "ftp> put Lobby.zpd Q9z5.zpd \r\n200 PORT command successful.\r\n150 ready to take file\r\n";
-  const std::string bye = "ftp> bye\r\n221 Goodbye.\r\n";
-  struct Case {
-    std::string output;
-    bool completed;
-    TransferFailure failure;
-    const char* why;
-  };
-  const Case cases[] = {
-      {greeting + put + "226 Transfer complete.\r\nftp: 32767 bytes sent in 0.01Seconds 3276.70Kbytes/sec.\r\n" + bye,
-       true, TransferFailure::None, ""},
-      {greeting + put + "226 Transfer complete.\r\nftp: 1000 bytes sent in 0.01Seconds 100.00Kbytes/sec.\r\n" + bye,
-       false, TransferFailure::Broken, "the connection was lost before the controller confirmed the file"},
-      {greeting + put + "451 Local error.\r\nftp: 32767 bytes sent in 0.01Seconds 3276.70Kbytes/sec.\r\n" + bye,
-       false, TransferFailure::Broken, "the controller answered 451 Local error."},
-      {"Connected to 10.0.0.7.\r\n220 RQC ready to take file\r\n530 Login incorrect.\r\nLogin failed.\r\n" + put + bye,
-       false, TransferFailure::LoginRefused, "the controller refused the login"},
-      {"Unknown host rqc.\r\nftp> bye\r\n", false, TransferFailure::NotReached, "the controller could not be reached"},
-      {"", false, TransferFailure::NotReached, "the controller could not be reached"},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.output);
-    const TransferResult r = clientTransferResult(c.output, 32767);
-    EXPECT_EQ(r.completed, c.completed);
-    EXPECT_EQ(r.failure, c.failure);
-    EXPECT_EQ(r.why, c.why);
-  }
+  const TransferResult cancelled = transferred(false, TransferFailure::Cancelled, "");
+  EXPECT_EQ(uploadMessages("150 ready to take file\r\n", cancelled), Lines{"Down Load Cancelled"});
+  EXPECT_EQ(uploadMessages("220 hello\r\n", cancelled), Lines{"Down Load Cancelled"});
+  // WinINet keeps only each call's last reply: its confirmed transfer speaks for the rest.
+  TransferResult partial = done;
+  partial.wholeDialogue = false;
+  EXPECT_EQ(uploadMessages("Connected to rqc.\r\n226 Transfer complete.\r\n", partial), Lines{"Down Load Completed !!"});
+  EXPECT_EQ(uploadMessages("150 ready to take file\r\n", partial), Lines{"Down Load Completed !!"});
+  EXPECT_EQ(uploadMessages("Connected to rqc.\r\n", done), Lines{}) << "a whole dialogue must say it";
 }
 
 TEST(ControllerAddressTest, AddressesAndNamesWithPortsPassAndNothingElse) {

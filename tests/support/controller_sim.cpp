@@ -38,6 +38,7 @@ ControllerSim::ControllerSim(const Options& options) {
   if (options.failAfterTransfer) args.emplace_back("--fail-after-transfer");
   if (options.greeting) args.push_back(std::string("--greeting=") + options.greeting);
   if (options.refuseLogin) args.emplace_back("--refuse-login");
+  if (options.stall) args.emplace_back("--stall");
   std::vector<char*> argv;
   for (std::string& a : args) argv.push_back(a.data());
   argv.push_back(nullptr);

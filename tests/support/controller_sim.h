@@ -19,6 +19,7 @@ class ControllerSim {
     bool failAfterTransfer = false;  // 451 where 226 belongs
     const char* greeting = nullptr;  // the 220 line's text instead of the server's own
     bool refuseLogin = false;   // 530 to every login
+    bool stall = false;         // takes the data, then never answers
   };
   explicit ControllerSim(const Options& options);
   ~ControllerSim();

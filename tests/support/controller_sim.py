@@ -5,7 +5,8 @@ with "ready to take file", and one for a net id with no station with "550 file o
 With --silent it accepts connections and never says a word. The faults a real controller
 or network may show are played on request: --drop-after N closes both connections once N
 bytes of an image have arrived, --fail-after-transfer answers 451 where 226 belongs,
---greeting replaces the 220 text, --refuse-login answers every login with 530. The port it
+--greeting replaces the 220 text, --refuse-login answers every login with 530, --stall takes
+the data and then never answers. The port it
 listens on is written to --port-file once it is ready.
 """
 import argparse
@@ -25,6 +26,7 @@ parser.add_argument("--drop-after", type=int, default=-1)
 parser.add_argument("--fail-after-transfer", action="store_true")
 parser.add_argument("--greeting")
 parser.add_argument("--refuse-login", action="store_true")
+parser.add_argument("--stall", action="store_true")
 args = parser.parse_args()
 
 
@@ -90,6 +92,8 @@ class Controller(FTPHandler):
     def respond(self, resp, logfun=None):
         if resp.startswith(("125 ", "150 ")):
             resp = "150 ready to take file"
+        if resp.startswith("226 ") and args.stall:
+            return None
         if resp.startswith("226 ") and args.fail_after_transfer:
             resp = "451 Requested action aborted: local error in processing."
         if logfun is None:

@@ -73,7 +73,11 @@ void setEmpty(VARIANT* result) { VariantInit(result); }
 
 }  // namespace
 
-Class1Object::Class1Object() { objectCreated(); }
+// The form of the session is drawn from the first object on.
+Class1Object::Class1Object() {
+  objectCreated();
+  guarded([&] { followForm(*user_); });
+}
 Class1Object::~Class1Object() { objectDestroyed(); }
 
 HRESULT Class1Object::QueryInterface(REFIID iid, void** out) {
@@ -197,6 +201,8 @@ HRESULT Class1Object::Show_Hide_Pellam_Form(VARIANT_BOOL* TempShow, VARIANT* res
     bool show = *TempShow != VARIANT_FALSE;
     class1_.Show_Hide_Pellam_Form(show);
     *TempShow = show ? VARIANT_TRUE : VARIANT_FALSE;
+    // Brought back for a host without a message loop, the form is modal as when it was loaded.
+    if (show && !hostRunsMessageLoop() && user_->runModalForm) user_->runModalForm();
   });
 }
 

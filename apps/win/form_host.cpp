@@ -12,6 +12,9 @@ namespace pellam::win {
 namespace {
 
 struct Shown {
+  // At the process's end the window goes with the process: no window is touched while the
+  // DLL is being detached.
+  ~Shown() { (void)window.release(); }
   component::Session* session = nullptr;
   std::unique_ptr<FormWindow> window;
   HHOOK hook = nullptr;

@@ -87,10 +87,11 @@ int wmain() {
           ++measured;
           if (size.cx <= room) continue;
           ++cut;
-          if (cut <= 40)
-            say("cut: mode " + std::to_string(mode) + " at " + std::to_string(dpi) + " dpi: " +
-                std::string(control->name()) + " \"" + text + "\" " + std::to_string(size.cx) + " > " +
-                std::to_string(room));
+          if (cut > 40) continue;
+          std::ostringstream line;
+          line << "cut: mode " << mode << " at " << dpi << " dpi: " << control->name() << " \"" << text << "\" "
+               << size.cx << " > " << room;
+          say(line.str());
         }
       }
     }
@@ -98,6 +99,8 @@ int wmain() {
     DeleteObject(font);
   }
   DeleteDC(dc);
-  say(std::to_string(measured) + " texts measured at 96 and 144 dpi, " + std::to_string(cut) + " cut off");
+  std::ostringstream summary;
+  summary << measured << " texts measured at 96 and 144 dpi, " << cut << " cut off";
+  say(summary.str());
   return cut == 0 && measured > 0 ? 0 : 1;
 }

@@ -74,7 +74,7 @@ BOOL CALLBACK setFont(HWND child, LPARAM font) {
 
 FormWindow::FormWindow(ui::UserForm1& form, HMENU menu) : form_(form) {
   window_ = CreateWindowExW(WS_EX_CONTROLPARENT, formClass(), L"Pellam Setup",
-                            WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN, CW_USEDEFAULT,
+                            WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN | WS_HSCROLL | WS_VSCROLL, CW_USEDEFAULT,
                             CW_USEDEFAULT, 640, 480, nullptr, menu, moduleInstance(), this);
   if (!window_) throw std::runtime_error("Cannot make the form's window");
   const PersonAction act = [this](const std::function<void()>& action) { personAction(action); };
@@ -190,13 +190,77 @@ void FormWindow::layout() {
     MoveWindow(page->window(), display.left, display.top, display.right - display.left, display.bottom - display.top, FALSE);
   }
   for (const auto& view : views_) view->place(scale_);
+  // As large as the form, but never beyond the screen's work area: the rest scrolls.
+  content_ = {tabs.right, tabs.bottom};
+  scrolled_ = {0, 0};
+  SetScrollPos(window_, SB_HORZ, 0, FALSE);
+  SetScrollPos(window_, SB_VERT, 0, FALSE);
   RECT frame = tabs;
-  AdjustWindowRectEx(&frame, static_cast<DWORD>(GetWindowLongW(window_, GWL_STYLE)), GetMenu(window_) != nullptr,
-                     static_cast<DWORD>(GetWindowLongW(window_, GWL_EXSTYLE)));
-  SetWindowPos(window_, nullptr, 0, 0, frame.right - frame.left, frame.bottom - frame.top,
+  AdjustWindowRectEx(&frame, static_cast<DWORD>(GetWindowLongW(window_, GWL_STYLE)) & ~(WS_HSCROLL | WS_VSCROLL),
+                     GetMenu(window_) != nullptr, static_cast<DWORD>(GetWindowLongW(window_, GWL_EXSTYLE)));
+  MONITORINFO monitor{};
+  monitor.cbSize = sizeof monitor;
+  GetMonitorInfoW(MonitorFromWindow(window_, MONITOR_DEFAULTTONEAREST), &monitor);
+  const LONG workWidth = monitor.rcWork.right - monitor.rcWork.left, workHeight = monitor.rcWork.bottom - monitor.rcWork.top;
+  const LONG bar = scale_(GetSystemMetrics(SM_CXVSCROLL));
+  LONG width = frame.right - frame.left, height = frame.bottom - frame.top;
+  if (height > workHeight) width += bar;
+  if (width > workWidth) height += bar;
+  SetWindowPos(window_, nullptr, 0, 0, std::min(width, workWidth), std::min(height, workHeight),
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  updateScrollBars();
   InvalidateRect(window_, nullptr, TRUE);
   if (old) DeleteObject(old);
+}
+
+void FormWindow::updateScrollBars() {
+  RECT client;
+  GetClientRect(window_, &client);
+  for (const int bar : {SB_HORZ, SB_VERT}) {
+    SCROLLINFO info{};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_RANGE | SIF_PAGE;
+    info.nMax = (bar == SB_HORZ ? content_.x : content_.y) - 1;
+    info.nPage = static_cast<UINT>(bar == SB_HORZ ? client.right : client.bottom);
+    SetScrollInfo(window_, bar, &info, TRUE);
+    scrollTo(bar, bar == SB_HORZ ? scrolled_.x : scrolled_.y);
+  }
+}
+
+void FormWindow::scrollTo(int bar, int position) {
+  SCROLLINFO info{};
+  info.cbSize = sizeof info;
+  info.fMask = SIF_RANGE | SIF_PAGE;
+  GetScrollInfo(window_, bar, &info);
+  position = std::clamp(position, 0, std::max(0, info.nMax - static_cast<int>(info.nPage) + 1));
+  LONG& now = bar == SB_HORZ ? scrolled_.x : scrolled_.y;
+  const int by = static_cast<int>(now) - position;
+  now = position;
+  SetScrollPos(window_, bar, position, TRUE);
+  if (by != 0) {
+    ScrollWindowEx(window_, bar == SB_HORZ ? by : 0, bar == SB_VERT ? by : 0, nullptr, nullptr, nullptr, nullptr,
+                   SW_SCROLLCHILDREN | SW_INVALIDATE | SW_ERASE);
+  }
+}
+
+void FormWindow::scroll(int bar, WORD request) {
+  SCROLLINFO info{};
+  info.cbSize = sizeof info;
+  info.fMask = SIF_ALL;
+  GetScrollInfo(window_, bar, &info);
+  int position = info.nPos;
+  switch (request) {
+    case SB_LINEUP: position -= scale_(20); break;
+    case SB_LINEDOWN: position += scale_(20); break;
+    case SB_PAGEUP: position -= static_cast<int>(info.nPage); break;
+    case SB_PAGEDOWN: position += static_cast<int>(info.nPage); break;
+    case SB_THUMBTRACK:
+    case SB_THUMBPOSITION: position = info.nTrackPos; break;
+    case SB_TOP: position = 0; break;
+    case SB_BOTTOM: position = info.nMax; break;
+    default: return;
+  }
+  scrollTo(bar, position);
 }
 
 HWND FormWindow::windowFor(std::string_view name) {
@@ -355,6 +419,10 @@ LRESULT FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         return 0;
       }
       break;
+    case WM_SIZE: updateScrollBars(); break;
+    case WM_HSCROLL:
+    case WM_VSCROLL: scroll(message == WM_HSCROLL ? SB_HORZ : SB_VERT, LOWORD(wParam)); return 0;
+    case WM_MOUSEWHEEL: scrollTo(SB_VERT, scrolled_.y - GET_WHEEL_DELTA_WPARAM(wParam) * scale_(60) / WHEEL_DELTA); return 0;
     case WM_DPICHANGED: {
       layout();
       const auto* suggested = reinterpret_cast<const RECT*>(lParam);

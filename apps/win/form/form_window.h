@@ -63,6 +63,10 @@ class FormWindow {
   void orderTabs(const ui::Control& page);
   void showPage(int index);
   void layout();
+  // Small screens scroll rather than cut a control off.
+  void updateScrollBars();
+  void scrollTo(int bar, int position);
+  void scroll(int bar, WORD request);
   void redrawAll();
   void followForm();
 
@@ -70,6 +74,8 @@ class FormWindow {
   HWND window_ = nullptr;
   HFONT font_ = nullptr;
   Scale scale_;
+  POINT content_{};   // the form's size at the window's scale
+  POINT scrolled_{};  // how far the form is scrolled
   std::vector<std::unique_ptr<ControlView>> views_;  // table order
   std::unordered_map<const ui::Control*, ControlView*> byControl_;
   std::unordered_map<const ui::Control*, std::vector<ui::Control*>> unbuilt_;  // by page, table order

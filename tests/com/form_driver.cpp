@@ -119,13 +119,27 @@ void capture(HWND form, const std::wstring& path) {
 void everyPage(HWND form, const std::wstring& prefix, bool inProcess) {
   HWND tabs = FindWindowExW(form, nullptr, WC_TABCONTROLW, nullptr);
   if (!tabs) fail("no tabs");
+  settle(form, inProcess);
   const auto count = static_cast<int>(SendMessageW(tabs, TCM_GETITEMCOUNT, 0, 0));
   for (int tab = 0; tab < count; ++tab) PostMessageW(tabs, WM_KEYDOWN, VK_LEFT, 0);
   for (int tab = 0; tab < count; ++tab) {
     if (tab > 0) PostMessageW(tabs, WM_KEYDOWN, VK_RIGHT, 0);
     settle(form, inProcess);
     const auto shown = static_cast<int>(SendMessageW(tabs, TCM_GETCURSEL, 0, 0));
-    if (shown != tab) fail("tab " + std::to_string(tab) + " did not show, tab " + std::to_string(shown) + " did");
+    if (shown != tab) {
+      std::string captions;
+      for (int i = 0; i < count; ++i) {
+        wchar_t text[64]{};
+        TCITEMW item{};
+        item.mask = TCIF_TEXT;
+        item.pszText = text;
+        item.cchTextMax = 64;
+        SendMessageW(tabs, TCM_GETITEMW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
+        captions += " [" + pellam::win::utf8(std::wstring_view(text)) + "]";
+      }
+      capture(form, prefix + L"-failed.bmp");
+      fail("tab " + std::to_string(tab) + " did not show, tab " + std::to_string(shown) + " did:" + captions);
+    }
     capture(form, prefix + L"-" + std::to_wstring(tab + 1) + L".bmp");
   }
 }
@@ -158,6 +172,9 @@ struct Host {
 
 int pages(const std::wstring& out, int count, wchar_t** jobs) {
   Host host;
+  RECT work;
+  SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+  say("work area " + std::to_string(work.right - work.left) + "x" + std::to_string(work.bottom - work.top));
   for (int i = 0; i < count; ++i) {
     const std::string zpd = pellam::win::utf8(std::wstring_view(jobs[i]));
     BSTR text = pellam::win::newBstr(zpd);

@@ -30,8 +30,9 @@ limit=300 w 'C:\pellam\pellam_form_driver.exe' pages 'C:\pellam\shots' "${jobs[@
 for zpd in "$c"/samples/*.zpd; do
   name=$(basename "$zpd" .zpd)
   w 'C:\pellam\pellam-setup.exe' "C:\\pellam\\samples\\$name.zpd" >/dev/null &
+  setup=$!
   w 'C:\pellam\pellam_form_driver.exe' setup-pages 'C:\pellam\shots' "$name" >>"$results/setup_pages.txt"
-  wait
+  wait "$setup"
 done
 w 'C:\pellam\pellam_form_layout.exe' >"$results/layout.txt"
 

@@ -97,6 +97,8 @@ FormWindow::FormWindow(ui::UserForm1& form, HMENU menu) : form_(form) {
   // The pages lie over the tabs: the tabs come last in the window's order, so that they are
   // drawn below the pages and Tab reaches them after the shown page's last control.
   SetWindowPos(multiPage_->window(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  // The tabs' height, and so where the pages start, is known once they hold their tabs.
+  multiPage_->redraw();
   layout();
   subscription_ = form_.observe([this](const ui::Control* control) { changed(control); });
   redrawAll();

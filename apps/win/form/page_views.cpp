@@ -44,7 +44,10 @@ class MultiPageView final : public ControlView {
       }
     }
     for (std::size_t i = 0; i < tabs_.size(); ++i) {
-      if (tabs_[i].first == control_.value()) SendMessageW(window_, TCM_SETCURSEL, i, 0);
+      // The arrow keys step from the focused tab: it must be the one the form shows.
+      if (tabs_[i].first != control_.value()) continue;
+      SendMessageW(window_, TCM_SETCURFOCUS, i, 0);
+      SendMessageW(window_, TCM_SETCURSEL, i, 0);
     }
     showPage_(control_.value());
     showState(control_);

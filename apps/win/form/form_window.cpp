@@ -74,7 +74,7 @@ BOOL CALLBACK setFont(HWND child, LPARAM font) {
 
 FormWindow::FormWindow(ui::UserForm1& form, HMENU menu) : form_(form) {
   window_ = CreateWindowExW(WS_EX_CONTROLPARENT, formClass(), L"Pellam Setup",
-                            WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN | WS_HSCROLL | WS_VSCROLL, CW_USEDEFAULT,
+                            WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN, CW_USEDEFAULT,
                             CW_USEDEFAULT, 640, 480, nullptr, menu, moduleInstance(), this);
   if (!window_) throw std::runtime_error("Cannot make the form's window");
   const PersonAction act = [this](const std::function<void()>& action) { personAction(action); };
@@ -134,6 +134,9 @@ void FormWindow::build(const ui::Control* page) {
   if (found == unbuilt_.end()) return;
   const std::vector<ui::Control*> controls = std::move(found->second);
   unbuilt_.erase(found);
+  // Made later than the window, by a person's click: with the same styles and scaling.
+  const PerMonitorAware aware;
+  const VisualStyles styles(moduleInstance());
   std::vector<ControlView*> made;
   // The table lists a frame before its controls.
   for (ui::Control* control : controls)
@@ -197,6 +200,7 @@ void FormWindow::layout() {
   scrolled_ = {0, 0};
   SetScrollPos(window_, SB_HORZ, 0, FALSE);
   SetScrollPos(window_, SB_VERT, 0, FALSE);
+  ShowScrollBar(window_, SB_BOTH, FALSE);
   RECT frame = tabs;
   AdjustWindowRectEx(&frame, static_cast<DWORD>(GetWindowLongW(window_, GWL_STYLE)) & ~(WS_HSCROLL | WS_VSCROLL),
                      GetMenu(window_) != nullptr, static_cast<DWORD>(GetWindowLongW(window_, GWL_EXSTYLE)));

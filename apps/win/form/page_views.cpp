@@ -46,7 +46,11 @@ class MultiPageView final : public ControlView {
     for (std::size_t i = 0; i < tabs_.size(); ++i) {
       // The arrow keys step from the focused tab: it must be the one the form shows.
       if (tabs_[i].first != control_.value()) continue;
-      SendMessageW(window_, TCM_SETCURFOCUS, i, 0);
+      // A tab control moves its focus only onto a tab other than the selected one.
+      if (static_cast<std::size_t>(SendMessageW(window_, TCM_GETCURFOCUS, 0, 0)) != i) {
+        SendMessageW(window_, TCM_SETCURSEL, static_cast<WPARAM>(-1), 0);
+        SendMessageW(window_, TCM_SETCURFOCUS, i, 0);
+      }
       SendMessageW(window_, TCM_SETCURSEL, i, 0);
     }
     showPage_(control_.value());

@@ -77,6 +77,10 @@ FormWindow::FormWindow(ui::UserForm1& form, HMENU menu) : form_(form) {
                             WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN, CW_USEDEFAULT,
                             CW_USEDEFAULT, 640, 480, nullptr, menu, moduleInstance(), this);
   if (!window_) throw std::runtime_error("Cannot make the form's window");
+  // Controls are made at the window's scale and in its font, so that layout() moves none of
+  // them again.
+  scale_.dpi = dpiOf(window_);
+  font_ = messageFont(scale_.dpi);
   const PersonAction act = [this](const std::function<void()>& action) { personAction(action); };
   int id = kFirstId;
   // The tabs and pages now; a page's controls when the page is first shown, since most jobs
@@ -179,10 +183,15 @@ void FormWindow::showPage(int index) {
 }
 
 void FormWindow::layout() {
-  scale_.dpi = dpiOf(window_);
-  HFONT old = font_;
-  font_ = messageFont(scale_.dpi);
-  EnumChildWindows(window_, setFont, reinterpret_cast<LPARAM>(font_));
+  HFONT old = nullptr;
+  if (const UINT dpi = dpiOf(window_); dpi != scale_.dpi) {
+    // Moved to a monitor of another scale: every control in the new font and place.
+    scale_.dpi = dpi;
+    old = font_;
+    font_ = messageFont(scale_.dpi);
+    EnumChildWindows(window_, setFont, reinterpret_cast<LPARAM>(font_));
+    for (const auto& view : views_) view->place(scale_);
+  }
   // The tabs are as large as the table's page area needs, the pages fill their display area.
   const ui::ControlSpec& spec = form_.MultiPage1.spec();
   RECT tabs{0, 0, scale_(spec.width), scale_(spec.height)};
@@ -194,7 +203,6 @@ void FormWindow::layout() {
   for (ControlView* page : pages_) {
     MoveWindow(page->window(), display.left, display.top, display.right - display.left, display.bottom - display.top, FALSE);
   }
-  for (const auto& view : views_) view->place(scale_);
   // As large as the form, but never beyond the screen's work area: the rest scrolls.
   content_ = {tabs.right, tabs.bottom};
   scrolled_ = {0, 0};

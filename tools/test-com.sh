@@ -11,7 +11,7 @@ bench=0
 [ "${1:-}" = --bench ] && bench=1
 t0=$(date +%s)
 ensure_packages cmake ninja-build g++ libcurl4-openssl-dev g++-mingw-w64-i686 g++-mingw-w64-x86-64 mingw-w64-tools \
-  wine wine64 libwine-dev fonts-wine debootstrap python3-pyftpdlib || exit 1
+  wine wine64 libwine-dev fonts-wine debootstrap python3-pyftpdlib xvfb || exit 1
 echo "== COM: packages $(( $(date +%s) - t0 )) s"
 
 set -e
@@ -130,6 +130,33 @@ echo "== COM 64-bit leg: host Wine"
 bash tests/com/leg.sh 64 "$work/w64"
 judge 64 "$work/w64/results"
 echo "== COM 64-bit minutes: $(( ($(date +%s) - t1 + 59) / 60 ))"
+
+# The form's window, 64-bit on the host: its pictures land in build/mingw/screenshots.
+t3=$(date +%s)
+form=$work/form
+mkdir -p "$form"
+cp build/mingw/apps/win/{Pellam.dll,pellam-setup.exe,pellam_form_driver.exe,pellam_form_layout.exe} "$form/"
+# The room-combine example at a fixed time, since its report carries the time of the save.
+{ echo 'clock "2026-11-23 12:00:00"'; cat examples/room-combine.pellam; } >"$form/room-combine.pellam"
+mkdir -p "$linux/drive" && (cd "$linux/drive" && "$pellam" run "$form/room-combine.pellam" >../drive.out)
+cp -r "$linux/samples" "$form/"
+echo "== COM form: 64-bit, host Wine on Xvfb"
+bash tests/com/form_leg.sh "$form"
+r=$form/results/form
+shots=build/mingw/screenshots
+rm -rf "$shots" && mkdir -p "$shots"
+python3 tests/com/bmp_to_png.py "$shots" "$r"/shots/*.bmp
+echo "== COM form: $(cat "$r/times.txt"), pictures in $shots"
+check "form driven by its controls: the messages" <(grep '^msgbox' "$linux/drive.out"; echo DONE) "$r/drive.txt"
+for f in "$linux"/drive/samples/*; do
+  check "form driven by its controls: $(basename "$f") as on Linux" <(od -An -tx1 "$f") <(od -An -tx1 "$r/drive/samples/$(basename "$f")")
+done
+pictures() { grep '^picture' "$1" | sed 's/.*\\[a-z]*-//; s/\.bmp / /' | cut -d' ' -f1; }
+check "form pages from Pellam.dll" tests/com/expected/form_pages.out <(pictures "$r/pages.txt"; tail -1 "$r/pages.txt")
+check "form pages from pellam-setup.exe" tests/com/expected/form_pages.out <(pictures "$r/setup_pages.txt"; grep -c DONE "$r/setup_pages.txt" | sed 's/^5$/DONE/')
+check "form fits 1024x768" /dev/null <(grep '^picture' "$r/pages.txt" "$r/setup_pages.txt" | awk '{split($NF, s, "x"); if (s[1] > 1024 || s[2] > 768) print}')
+check "form texts fit at 96 and 144 dpi" <(echo "0 cut off") <(tail -1 "$r/layout.txt" | grep -o '[0-9]* cut off')
+echo "== COM form minutes: $(( ($(date +%s) - t3 + 59) / 60 ))"
 
 t2=$(date +%s)
 if host_wine32; then

@@ -103,7 +103,6 @@ MainWindow::MainWindow(QWidget* parent, QString dataFolder)
 
 // The form view observes the session's form: it goes before the session does.
 MainWindow::~MainWindow() {
-  uploadWatch_ = {};
   delete takeCentralWidget();
 }
 

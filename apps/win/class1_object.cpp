@@ -5,6 +5,7 @@
 #include <string>
 
 #include "component/script/script_error.h"
+#include "form_host.h"
 #include "module.h"
 #include "wide_text.h"
 
@@ -46,6 +47,14 @@ HRESULT guarded(Body&& body) {
   }
 }
 
+// Every member may have loaded, shown, hidden or unloaded the form: its window follows.
+template <class Body>
+HRESULT followed(component::Session& session, Body&& body) {
+  const HRESULT result = guarded(body);
+  guarded([&] { followForm(session); });
+  return result;
+}
+
 // A by-reference string: the core works on UTF-8 and whatever it leaves goes back to the host.
 struct InOutText {
   explicit InOutText(BSTR* slot) : slot(slot), text(utf8(*slot)), before(text) {}
@@ -64,7 +73,11 @@ void setEmpty(VARIANT* result) { VariantInit(result); }
 
 }  // namespace
 
-Class1Object::Class1Object() { objectCreated(); }
+// The form of the session is drawn from the first object on.
+Class1Object::Class1Object() {
+  objectCreated();
+  guarded([&] { followForm(*user_); });
+}
 Class1Object::~Class1Object() { objectDestroyed(); }
 
 HRESULT Class1Object::QueryInterface(REFIID iid, void** out) {
@@ -94,12 +107,12 @@ ULONG Class1Object::Release() {
 HRESULT Class1Object::InterfaceSupportsErrorInfo(REFIID iid) { return iid == IID__Class1 ? S_OK : S_FALSE; }
 
 HRESULT Class1Object::Class_Initialize() {
-  return guarded([&] { class1_.Class_Initialize(); });
+  return followed(*user_, [&] { class1_.Class_Initialize(); });
 }
 
 HRESULT Class1Object::Product_Type(BSTR* TempFileString, short* result) {
   if (!TempFileString || !result) return E_POINTER;
-  return guarded([&] {
+  return followed(*user_, [&] {
     InOutText path(TempFileString);
     *result = class1_.Product_Type(path.text);
     path.writeBack();
@@ -109,7 +122,7 @@ HRESULT Class1Object::Product_Type(BSTR* TempFileString, short* result) {
 HRESULT Class1Object::ReadZPD_ImageFile(BSTR* TempString, VARIANT* result) {
   if (!TempString || !result) return E_POINTER;
   setEmpty(result);
-  return guarded([&] {
+  return followed(*user_, [&] {
     InOutText path(TempString);
     class1_.ReadZPD_ImageFile(path.text);
     path.writeBack();
@@ -119,7 +132,7 @@ HRESULT Class1Object::ReadZPD_ImageFile(BSTR* TempString, VARIANT* result) {
 HRESULT Class1Object::Create_Pellam_Zpd(BSTR* tempFileName, VARIANT* result) {
   if (!tempFileName || !result) return E_POINTER;
   setEmpty(result);
-  return guarded([&] {
+  return followed(*user_, [&] {
     InOutText path(tempFileName);
     class1_.Create_Pellam_Zpd(path.text);
     path.writeBack();
@@ -129,7 +142,7 @@ HRESULT Class1Object::Create_Pellam_Zpd(BSTR* tempFileName, VARIANT* result) {
 HRESULT Class1Object::Return_FileName_Path(BSTR* TempFilterStr, BSTR* result) {
   if (!TempFilterStr || !result) return E_POINTER;
   *result = nullptr;
-  return guarded([&] {
+  return followed(*user_, [&] {
     InOutText filter(TempFilterStr);
     const std::string chosen = class1_.Return_FileName_Path(filter.text);
     filter.writeBack();
@@ -140,13 +153,15 @@ HRESULT Class1Object::Return_FileName_Path(BSTR* TempFilterStr, BSTR* result) {
 HRESULT Class1Object::Load_User_Form(VARIANT* result) {
   if (!result) return E_POINTER;
   setEmpty(result);
-  return guarded([&] { class1_.Load_User_Form(); });
+  // A host that shows no window of its own runs no message loop the form could use.
+  user_->hostAllowsModelessForms = hostRunsMessageLoop();
+  return followed(*user_, [&] { class1_.Load_User_Form(); });
 }
 
 HRESULT Class1Object::Return_File_Name(BSTR* TempFilePath, BSTR* TempPath, BSTR* result) {
   if (!TempFilePath || !TempPath || !result) return E_POINTER;
   *result = nullptr;
-  return guarded([&] {
+  return followed(*user_, [&] {
     InOutText path(TempFilePath);
     InOutText name(TempPath);
     const std::string file = class1_.Return_File_Name(path.text, name.text);
@@ -159,7 +174,7 @@ HRESULT Class1Object::Return_File_Name(BSTR* TempFilePath, BSTR* TempPath, BSTR*
 HRESULT Class1Object::Return_Dir_Path(BSTR* TempFilePath, BSTR* result) {
   if (!TempFilePath || !result) return E_POINTER;
   *result = nullptr;
-  return guarded([&] {
+  return followed(*user_, [&] {
     InOutText path(TempFilePath);
     const std::string folder = class1_.Return_Dir_Path(path.text);
     path.writeBack();
@@ -170,29 +185,31 @@ HRESULT Class1Object::Return_Dir_Path(BSTR* TempFilePath, BSTR* result) {
 HRESULT Class1Object::Initailize_Pellam_Variables_And_Form(VARIANT* result) {
   if (!result) return E_POINTER;
   setEmpty(result);
-  return guarded([&] { class1_.Initailize_Pellam_Variables_And_Form(); });
+  return followed(*user_, [&] { class1_.Initailize_Pellam_Variables_And_Form(); });
 }
 
 HRESULT Class1Object::Unload_Pellam_Form(VARIANT* result) {
   if (!result) return E_POINTER;
   setEmpty(result);
-  return guarded([&] { class1_.Unload_Pellam_Form(); });
+  return followed(*user_, [&] { class1_.Unload_Pellam_Form(); });
 }
 
 HRESULT Class1Object::Show_Hide_Pellam_Form(VARIANT_BOOL* TempShow, VARIANT* result) {
   if (!TempShow || !result) return E_POINTER;
   setEmpty(result);
-  return guarded([&] {
+  return followed(*user_, [&] {
     bool show = *TempShow != VARIANT_FALSE;
     class1_.Show_Hide_Pellam_Form(show);
     *TempShow = show ? VARIANT_TRUE : VARIANT_FALSE;
+    // Brought back for a host without a message loop, the form is modal as when it was loaded.
+    if (show && !hostRunsMessageLoop() && user_->runModalForm) user_->runModalForm();
   });
 }
 
 HRESULT Class1Object::New_KX_Job_Display_Board_SetUp(VARIANT* result) {
   if (!result) return E_POINTER;
   setEmpty(result);
-  return guarded([&] { class1_.New_KX_Job_Display_Board_SetUp(); });
+  return followed(*user_, [&] { class1_.New_KX_Job_Display_Board_SetUp(); });
 }
 
 }  // namespace pellam::win

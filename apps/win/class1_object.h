@@ -44,6 +44,7 @@ class Class1Object final : public _Class1, public ISupportErrorInfo {
 
  private:
   std::atomic<ULONG> references_{1};
+  component::SharedSession::User user_;  // the session the form's window draws
   component::Class1 class1_;
 };
 

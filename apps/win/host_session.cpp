@@ -7,10 +7,19 @@
 
 namespace pellam::win {
 
+namespace {
+WinDialogs& dialogs() {
+  static WinDialogs d;
+  return d;
+}
+}  // namespace
+
+void setDialogOwner(HWND owner) { dialogs().setOwner(owner); }
+
 void giveHostPlatform() {
   // Made before any session, so they outlive every one of them.
   static UnattendedHost* const unattended = UnattendedHost::fromEnvironment();
-  static WinDialogs dialogs;
+  static WinDialogs& dialogs = win::dialogs();
   static component::DesktopViewer notepad;
   static component::SystemClock clock;
   static const bool given = [] {

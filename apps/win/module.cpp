@@ -7,6 +7,7 @@
 #include "component/shared_session.h"
 
 #include "class_factory.h"
+#include "form_host.h"
 #include "host_session.h"
 
 namespace pellam::win {
@@ -59,7 +60,9 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
 
 // COM unloads the DLL only after a yes: the job goes with it then, and not before.
 extern "C" HRESULT WINAPI DllCanUnloadNow() {
-  return pellam::win::canUnload() && pellam::component::SharedSession::endIfUnused() ? S_OK : S_FALSE;
+  if (!pellam::win::canUnload() || pellam::component::SharedSession::users() > 0) return S_FALSE;
+  pellam::win::endForm();
+  return pellam::component::SharedSession::endIfUnused() ? S_OK : S_FALSE;
 }
 
 extern "C" HRESULT WINAPI DllGetClassObject(REFCLSID clsid, REFIID iid, void** out) {

@@ -3,6 +3,8 @@
 #include <windows.h>
 #include <commdlg.h>
 
+#include "form/module_instance.h"
+#include "form/win_metrics.h"
 #include "wide_text.h"
 
 namespace pellam::win {
@@ -25,12 +27,15 @@ std::wstring dialogFilter(const std::string& hostFilter) {
 
 }  // namespace
 
+HWND WinDialogs::owner() const { return owner_ && IsWindowVisible(owner_) ? owner_ : GetActiveWindow(); }
+
 ui::Answer WinDialogs::msgBox(const std::string& text, ui::Buttons buttons) {
   UINT style = MB_OK;
   if (buttons == ui::Buttons::OKCancel) style = MB_OKCANCEL;
   if (buttons == ui::Buttons::YesNo) style = MB_YESNO;
-  HWND owner = GetActiveWindow();
+  HWND owner = this->owner();
   if (!owner) style |= MB_TASKMODAL;
+  const VisualStyles styles(moduleInstance());
   switch (MessageBoxW(owner, wide(text).c_str(), kTitle, style)) {
     case IDYES: return ui::Answer::Yes;
     case IDNO: return ui::Answer::No;
@@ -44,7 +49,8 @@ std::string WinDialogs::openFile(const ui::FileDialogRequest& request) {
   std::wstring file(32768, L'\0');
   OPENFILENAMEW dialog{};
   dialog.lStructSize = sizeof dialog;
-  dialog.hwndOwner = GetActiveWindow();
+  const VisualStyles styles(moduleInstance());
+  dialog.hwndOwner = owner();
   dialog.lpstrFilter = request.filter.empty() ? nullptr : filter.c_str();
   dialog.nFilterIndex = static_cast<DWORD>(request.filterIndex);
   dialog.lpstrFile = file.data();

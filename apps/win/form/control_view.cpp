@@ -1,0 +1,95 @@
+#include "control_view.h"
+
+#include <stdexcept>
+
+#include "module_instance.h"
+#include "wide_text.h"
+
+namespace pellam::win {
+
+namespace {
+
+constexpr wchar_t kPanelClass[] = L"PellamPanel";
+
+LRESULT CALLBACK panelProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  // Pages and frames hand their font on to the controls made in them.
+  if (message == WM_SETFONT) {
+    SetPropW(window, L"PellamFont", reinterpret_cast<HANDLE>(wParam));
+    return 0;
+  }
+  if (message == WM_GETFONT) return reinterpret_cast<LRESULT>(GetPropW(window, L"PellamFont"));
+  if (message == WM_NOTIFY) {
+    const auto* header = reinterpret_cast<const NMHDR*>(lParam);
+    if (ControlView* view = viewOf(header->hwndFrom)) view->notify(header->code);
+    return 0;
+  }
+  if (message == WM_COMMAND && lParam) {
+    if (ControlView* view = viewOf(reinterpret_cast<HWND>(lParam))) view->command(HIWORD(wParam));
+    return 0;
+  }
+  // Static and button texts are drawn on the panel's own colour.
+  if (message == WM_CTLCOLORSTATIC || message == WM_CTLCOLORBTN) {
+    SetBkColor(reinterpret_cast<HDC>(wParam), GetSysColor(COLOR_BTNFACE));
+    return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE));
+  }
+  return DefWindowProcW(window, message, wParam, lParam);
+}
+
+}  // namespace
+
+const wchar_t* panelClass() {
+  static const bool registered = [] {
+    WNDCLASSEXW c{};
+    c.cbSize = sizeof c;
+    c.lpfnWndProc = panelProcedure;
+    c.hInstance = moduleInstance();
+    c.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    c.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+    c.lpszClassName = kPanelClass;
+    return RegisterClassExW(&c) != 0;
+  }();
+  (void)registered;
+  return kPanelClass;
+}
+
+ControlView* viewOf(HWND window) { return window ? static_cast<ControlView*>(GetPropW(window, L"PellamView")) : nullptr; }
+
+ControlView::~ControlView() {
+  if (window_) {
+    RemovePropW(window_, L"PellamView");
+    DestroyWindow(window_);
+  }
+}
+
+void ControlView::create(const wchar_t* windowClass, DWORD style, DWORD exStyle, HWND parent, int id) {
+  window_ = CreateWindowExW(exStyle, windowClass, L"", style | WS_CHILD, 0, 0, 0, 0, parent,
+                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), moduleInstance(), nullptr);
+  if (!window_) throw std::runtime_error("Cannot make a window");
+  SetPropW(window_, L"PellamView", this);
+  SendMessageW(window_, WM_SETFONT, SendMessageW(parent, WM_GETFONT, 0, 0), FALSE);
+}
+
+void ControlView::place(const Scale& scale) {
+  MoveWindow(window_, scale(spec_->left), scale(spec_->top), scale(spec_->width), scale(spec_->height), FALSE);
+}
+
+void ControlView::showState(const ui::Control& control) {
+  const bool shown = (GetWindowLongW(window_, GWL_STYLE) & WS_VISIBLE) != 0;
+  if (shown != control.visible()) ShowWindow(window_, control.visible() ? SW_SHOWNA : SW_HIDE);
+  if ((IsWindowEnabled(window_) != FALSE) != control.enabled()) EnableWindow(window_, control.enabled());
+}
+
+void ControlView::setText(const std::string& utf8, bool mnemonics) {
+  std::wstring text = wide(utf8);
+  // A person's "&" is a character, not the mark of a key.
+  if (mnemonics) {
+    for (std::size_t at = text.find(L'&'); at != std::wstring::npos; at = text.find(L'&', at + 2)) text.insert(at, 1, L'&');
+  }
+  const int length = GetWindowTextLengthW(window_);
+  std::wstring shown(static_cast<std::size_t>(length) + 1, L'\0');
+  GetWindowTextW(window_, shown.data(), length + 1);
+  shown.resize(static_cast<std::size_t>(length));
+  if (shown != text) SetWindowTextW(window_, text.c_str());
+}
+
+}  // namespace pellam::win

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include <windows.h>
+
+#include "ui/controls.h"
+#include "win_metrics.h"
+
+namespace pellam::win {
+
+// Runs what a person did to a control: no error of the core leaves a window procedure, and the
+// window learns that the action is over.
+using PersonAction = std::function<void(const std::function<void()>& action)>;
+
+// One Windows control standing for one control of the form. The control's notifications come
+// back through command(); redraw() copies the control's state onto the window with the
+// notifications it causes ignored, so that the form's own changes never come back as a person's.
+class ControlView {
+ public:
+  ControlView() = default;
+  ControlView(const ControlView&) = delete;
+  ControlView& operator=(const ControlView&) = delete;
+  virtual ~ControlView();
+  HWND window() const { return window_; }
+  // Where the children of a page or frame go.
+  virtual HWND childParent() const { return window_; }
+  virtual void redraw() = 0;
+  // A WM_COMMAND notification code from the window.
+  virtual void command(WORD) {}
+  // A WM_NOTIFY code from the window.
+  virtual void notify(UINT) {}
+  // Places the window at the table's position in its parent, at the parent's scale.
+  virtual void place(const Scale& scale);
+
+ protected:
+  // Makes the window and ties it to this view.
+  void create(const wchar_t* windowClass, DWORD style, DWORD exStyle, HWND parent, int id);
+  // The control's Visible and Enabled onto its window: every view's redraw ends with them.
+  void showState(const ui::Control& control);
+  // Sets the window's text only when it differs, so that nothing flickers or notifies in vain.
+  void setText(const std::string& utf8, bool mnemonics = false);
+
+  const ui::ControlSpec* spec_ = nullptr;
+  HWND window_ = nullptr;
+  bool redrawing_ = false;  // notifications meanwhile are the form's own changes
+};
+
+// The view of a window made by create(), or nullptr.
+ControlView* viewOf(HWND window);
+
+std::unique_ptr<ControlView> makeListView(ui::ListControl& control, HWND parent, int id, PersonAction act);
+std::unique_ptr<ControlView> makeTextView(ui::TextBox& control, HWND parent, int id, PersonAction act);
+std::unique_ptr<ControlView> makeCaptionView(ui::CaptionedControl& control, HWND parent, int id);
+std::unique_ptr<ControlView> makeButtonView(ui::CaptionedControl& control, HWND parent, int id, PersonAction act);
+// The tabs show the pages that are visible; choosing one shows its page through `showPage`.
+std::unique_ptr<ControlView> makeMultiPageView(ui::MultiPage& control, HWND parent, int id, PersonAction act,
+                                               std::function<void(int page)> showPage);
+std::unique_ptr<ControlView> makePageView(ui::Page& control, HWND parent, int id);
+
+// The window class of pages and frames: a plain surface that passes its children's
+// notifications on to their views.
+const wchar_t* panelClass();
+
+}  // namespace pellam::win

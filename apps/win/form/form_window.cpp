@@ -1,0 +1,451 @@
+#include "form_window.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <map>
+
+#include "module_instance.h"
+#include "ui/reading_order.h"
+#include "wide_text.h"
+
+namespace pellam::win {
+
+namespace {
+
+constexpr wchar_t kFormClass[] = L"PellamForm";
+constexpr UINT kFlush = WM_APP + 1;
+constexpr UINT kPosted = WM_APP + 2;
+// Control ids: the row of the table, past the ids dialogs give a meaning (IDOK, IDCANCEL...).
+constexpr int kFirstId = 1000;
+
+const wchar_t* formClass() {
+  static const bool registered = [] {
+    WNDCLASSEXW c{};
+    c.cbSize = sizeof c;
+    c.lpfnWndProc = &FormWindow::procedure;
+    c.hInstance = moduleInstance();
+    c.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    c.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+    c.hIcon = LoadIconW(nullptr, IDI_APPLICATION);
+    c.lpszClassName = kFormClass;
+    return RegisterClassExW(&c) != 0;
+  }();
+  (void)registered;
+  return kFormClass;
+}
+
+// Where each control comes in the reading order; a frame comes where its first control does.
+const std::unordered_map<std::string_view, int>& readingPlace() {
+  static const auto places = [] {
+    std::unordered_map<std::string_view, int> place;
+    int n = 0;
+    for (const ui::ControlSpec* spec : ui::readingOrder(ui::userForm1Table())) {
+      place.emplace(spec->name, n);
+      place.emplace(spec->parent, n);  // the first control read in a frame places the frame
+      ++n;
+    }
+    return place;
+  }();
+  return places;
+}
+
+std::unique_ptr<ControlView> makeView(ui::Control& c, HWND parent, int id, const PersonAction& act) {
+  switch (c.kind()) {
+    case ui::Kind::Frame:
+    case ui::Kind::Label: return makeCaptionView(static_cast<ui::CaptionedControl&>(c), parent, id);
+    case ui::Kind::TextBox: return makeTextView(static_cast<ui::TextBox&>(c), parent, id, act);
+    case ui::Kind::ComboBox:
+    case ui::Kind::ListBox: return makeListView(static_cast<ui::ListControl&>(c), parent, id, act);
+    case ui::Kind::OptionButton:
+    case ui::Kind::CommandButton: return makeButtonView(static_cast<ui::CaptionedControl&>(c), parent, id, act);
+    case ui::Kind::Page: return makePageView(static_cast<ui::Page&>(c), parent, id);
+    case ui::Kind::MultiPage: break;
+  }
+  return nullptr;
+}
+
+BOOL CALLBACK setFont(HWND child, LPARAM font) {
+  SendMessageW(child, WM_SETFONT, static_cast<WPARAM>(font), FALSE);
+  return TRUE;
+}
+
+}  // namespace
+
+FormWindow::FormWindow(ui::UserForm1& form, HMENU menu) : form_(form) {
+  window_ = CreateWindowExW(WS_EX_CONTROLPARENT, formClass(), L"Pellam Setup",
+                            WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN, CW_USEDEFAULT,
+                            CW_USEDEFAULT, 640, 480, nullptr, menu, moduleInstance(), this);
+  if (!window_) throw std::runtime_error("Cannot make the form's window");
+  // Controls are made at the window's scale and in its font, so that layout() moves none of
+  // them again.
+  scale_.dpi = dpiOf(window_);
+  font_ = messageFont(scale_.dpi);
+  const PersonAction act = [this](const std::function<void()>& action) { personAction(action); };
+  int id = kFirstId;
+  // The tabs and pages now; a page's controls when the page is first shown, since most jobs
+  // never open most pages.
+  for (ui::Control* control : form_.controls()) {
+    const ui::ControlSpec& spec = control->spec();
+    if (spec.kind == ui::Kind::MultiPage) {
+      views_.push_back(makeMultiPageView(form_.MultiPage1, window_, id, act, [this](int page) { showPage(page); }));
+      multiPage_ = views_.back().get();
+      byControl_[control] = multiPage_;
+    } else if (spec.kind == ui::Kind::Page) {
+      pages_.push_back(&add(*control, window_));
+    } else {
+      unbuilt_[pageOf(*control)].push_back(control);
+    }
+    ++id;
+  }
+  // The pages lie over the tabs: the tabs come last in the window's order, so that they are
+  // drawn below the pages and Tab reaches them after the shown page's last control.
+  SetWindowPos(multiPage_->window(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  // The tabs' height, and so where the pages start, is known once they hold their tabs.
+  multiPage_->redraw();
+  layout();
+  subscription_ = form_.observe([this](const ui::Control* control) { changed(control); });
+  redrawAll();
+}
+
+FormWindow::~FormWindow() {
+  subscription_.end();
+  // The controls before the pages and frames that hold them.
+  while (!views_.empty()) views_.pop_back();
+  SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
+  DestroyWindow(window_);
+  if (font_) DeleteObject(font_);
+}
+
+const ui::Control* FormWindow::pageOf(const ui::Control& control) const {
+  const ui::Control* page = &control;
+  while (page->kind() != ui::Kind::Page) page = form_.find(page->spec().parent);
+  return page;
+}
+
+ControlView& FormWindow::add(ui::Control& control, HWND parent) {
+  const auto row = std::find(form_.controls().begin(), form_.controls().end(), &control) - form_.controls().begin();
+  auto view = makeView(control, parent, kFirstId + static_cast<int>(row),
+                       [this](const std::function<void()>& action) { personAction(action); });
+  view->place(scale_);
+  byControl_[&control] = view.get();
+  views_.push_back(std::move(view));
+  return *views_.back();
+}
+
+void FormWindow::build(const ui::Control* page) {
+  const auto found = unbuilt_.find(page);
+  if (found == unbuilt_.end()) return;
+  const std::vector<ui::Control*> controls = std::move(found->second);
+  unbuilt_.erase(found);
+  // Made later than the window, by a person's click: with the same styles and scaling.
+  const PerMonitorAware aware;
+  const VisualStyles styles(moduleInstance());
+  std::vector<ControlView*> made;
+  // The table lists a frame before its controls.
+  for (ui::Control* control : controls)
+    made.push_back(&add(*control, byControl_.at(form_.find(control->spec().parent))->childParent()));
+  for (ControlView* view : made) view->redraw();
+  orderTabs(*page);
+}
+
+void FormWindow::orderTabs(const ui::Control& page) {
+  // Windows tabs through a parent's children in their order: each page's and frame's children
+  // are put in the order a person reads them.
+  std::map<HWND, std::vector<std::pair<int, HWND>>> byParent;
+  for (const auto& [control, view] : byControl_) {
+    if (control->kind() == ui::Kind::Page || control->kind() == ui::Kind::MultiPage) continue;
+    if (pageOf(*control) != &page) continue;
+    const auto place = readingPlace().find(control->name());
+    byParent[GetParent(view->window())].emplace_back(place == readingPlace().end() ? 1 << 30 : place->second,
+                                                     view->window());
+  }
+  for (auto& [parent, children] : byParent) {
+    std::sort(children.begin(), children.end());
+    HWND previous = HWND_TOP;
+    for (const auto& [place, child] : children) {
+      SetWindowPos(child, previous, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+      previous = child;
+    }
+  }
+}
+
+void FormWindow::showPage(int index) {
+  if (index < 0 || static_cast<std::size_t>(index) >= pages_.size()) return;
+  build(form_.MultiPage1.pages()[static_cast<std::size_t>(index)]);
+  for (std::size_t i = 0; i < pages_.size(); ++i) {
+    const bool shown = static_cast<int>(i) == index;
+    if ((IsWindowVisible(pages_[i]->window()) != FALSE) != shown) ShowWindow(pages_[i]->window(), shown ? SW_SHOWNA : SW_HIDE);
+  }
+  // The focus never stays on a control nobody sees.
+  HWND focus = GetFocus();
+  if (focus && IsChild(window_, focus) && !IsWindowVisible(focus)) SetFocus(multiPage_->window());
+}
+
+void FormWindow::layout() {
+  HFONT old = nullptr;
+  if (const UINT dpi = dpiOf(window_); dpi != scale_.dpi) {
+    // Moved to a monitor of another scale: every control in the new font and place.
+    scale_.dpi = dpi;
+    old = font_;
+    font_ = messageFont(scale_.dpi);
+    EnumChildWindows(window_, setFont, reinterpret_cast<LPARAM>(font_));
+    for (const auto& view : views_) view->place(scale_);
+  }
+  // The tabs are as large as the table's page area needs, the pages fill their display area.
+  const ui::ControlSpec& spec = form_.MultiPage1.spec();
+  RECT tabs{0, 0, scale_(spec.width), scale_(spec.height)};
+  SendMessageW(multiPage_->window(), TCM_ADJUSTRECT, TRUE, reinterpret_cast<LPARAM>(&tabs));
+  OffsetRect(&tabs, -tabs.left, -tabs.top);
+  MoveWindow(multiPage_->window(), 0, 0, tabs.right, tabs.bottom, FALSE);
+  RECT display = tabs;
+  SendMessageW(multiPage_->window(), TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&display));
+  for (ControlView* page : pages_) {
+    MoveWindow(page->window(), display.left, display.top, display.right - display.left, display.bottom - display.top, FALSE);
+  }
+  // As large as the form, but never beyond the screen's work area: the rest scrolls.
+  content_ = {tabs.right, tabs.bottom};
+  scrolled_ = {0, 0};
+  SetScrollPos(window_, SB_HORZ, 0, FALSE);
+  SetScrollPos(window_, SB_VERT, 0, FALSE);
+  ShowScrollBar(window_, SB_BOTH, FALSE);
+  RECT frame = tabs;
+  AdjustWindowRectEx(&frame, static_cast<DWORD>(GetWindowLongW(window_, GWL_STYLE)) & ~(WS_HSCROLL | WS_VSCROLL),
+                     GetMenu(window_) != nullptr, static_cast<DWORD>(GetWindowLongW(window_, GWL_EXSTYLE)));
+  MONITORINFO monitor{};
+  monitor.cbSize = sizeof monitor;
+  GetMonitorInfoW(MonitorFromWindow(window_, MONITOR_DEFAULTTONEAREST), &monitor);
+  const LONG workWidth = monitor.rcWork.right - monitor.rcWork.left, workHeight = monitor.rcWork.bottom - monitor.rcWork.top;
+  const LONG bar = scale_(GetSystemMetrics(SM_CXVSCROLL));
+  LONG width = frame.right - frame.left, height = frame.bottom - frame.top;
+  if (height > workHeight) width += bar;
+  if (width > workWidth) height += bar;
+  SetWindowPos(window_, nullptr, 0, 0, std::min(width, workWidth), std::min(height, workHeight),
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  updateScrollBars();
+  InvalidateRect(window_, nullptr, TRUE);
+  if (old) DeleteObject(old);
+}
+
+void FormWindow::updateScrollBars() {
+  RECT client;
+  GetClientRect(window_, &client);
+  for (const int bar : {SB_HORZ, SB_VERT}) {
+    SCROLLINFO info{};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_RANGE | SIF_PAGE;
+    info.nMax = (bar == SB_HORZ ? content_.x : content_.y) - 1;
+    info.nPage = static_cast<UINT>(bar == SB_HORZ ? client.right : client.bottom);
+    SetScrollInfo(window_, bar, &info, TRUE);
+    scrollTo(bar, bar == SB_HORZ ? scrolled_.x : scrolled_.y);
+  }
+}
+
+void FormWindow::scrollTo(int bar, int position) {
+  SCROLLINFO info{};
+  info.cbSize = sizeof info;
+  info.fMask = SIF_RANGE | SIF_PAGE;
+  GetScrollInfo(window_, bar, &info);
+  position = std::clamp(position, 0, std::max(0, info.nMax - static_cast<int>(info.nPage) + 1));
+  LONG& now = bar == SB_HORZ ? scrolled_.x : scrolled_.y;
+  const int by = static_cast<int>(now) - position;
+  now = position;
+  SetScrollPos(window_, bar, position, TRUE);
+  if (by != 0) {
+    ScrollWindowEx(window_, bar == SB_HORZ ? by : 0, bar == SB_VERT ? by : 0, nullptr, nullptr, nullptr, nullptr,
+                   SW_SCROLLCHILDREN | SW_INVALIDATE | SW_ERASE);
+  }
+}
+
+void FormWindow::scroll(int bar, WORD request) {
+  SCROLLINFO info{};
+  info.cbSize = sizeof info;
+  info.fMask = SIF_ALL;
+  GetScrollInfo(window_, bar, &info);
+  int position = info.nPos;
+  switch (request) {
+    case SB_LINEUP: position -= scale_(20); break;
+    case SB_LINEDOWN: position += scale_(20); break;
+    case SB_PAGEUP: position -= static_cast<int>(info.nPage); break;
+    case SB_PAGEDOWN: position += static_cast<int>(info.nPage); break;
+    case SB_THUMBTRACK:
+    case SB_THUMBPOSITION: position = info.nTrackPos; break;
+    case SB_TOP: position = 0; break;
+    case SB_BOTTOM: position = info.nMax; break;
+    default: return;
+  }
+  scrollTo(bar, position);
+}
+
+HWND FormWindow::windowFor(std::string_view name) {
+  const ui::Control* control = form_.find(name);
+  if (!control) return nullptr;
+  if (!byControl_.contains(control)) build(pageOf(*control));
+  return byControl_.at(control)->window();
+}
+
+void FormWindow::changed(const ui::Control* control) {
+  if (!control) {
+    everything_ = true;
+  } else if (const auto view = byControl_.find(control); view == byControl_.end()) {
+    return;  // drawn whole when its page is built
+  } else if (std::find(dirty_.begin(), dirty_.end(), view->second) == dirty_.end()) {
+    dirty_.push_back(view->second);
+  }
+  // Changes made while a message box is up are drawn by the box's own message loop.
+  if (!flushQueued_) {
+    flushQueued_ = true;
+    PostMessageW(window_, kFlush, 0, 0);
+  }
+}
+
+void FormWindow::flush() {
+  flushQueued_ = false;
+  if (everything_) {
+    everything_ = false;
+    dirty_.clear();
+    redrawAll();
+    return;
+  }
+  auto dirty = std::move(dirty_);
+  dirty_.clear();
+  for (ControlView* view : dirty) view->redraw();
+  // The shown page follows the pages' visibility, so the tabs come last.
+  if (!dirty.empty()) multiPage_->redraw();
+  followForm();
+}
+
+void FormWindow::redrawAll() {
+  // By index: showing a page builds its controls, which adds views.
+  for (std::size_t i = 0; i < views_.size(); ++i) views_[i]->redraw();
+  multiPage_->redraw();
+  followForm();
+}
+
+void FormWindow::followForm() {
+  const bool shown = form_.loaded() && form_.visible();
+  if ((IsWindowVisible(window_) != FALSE) == shown) return;
+  ShowWindow(window_, shown ? SW_SHOW : SW_HIDE);
+  if (shown) {
+    SetForegroundWindow(window_);
+    SetFocus(multiPage_->window());
+  }
+}
+
+void FormWindow::post(std::function<void()> action) {
+  auto* posted = new std::function<void()>(std::move(action));
+  if (!PostMessageW(window_, kPosted, 0, reinterpret_cast<LPARAM>(posted))) delete posted;
+}
+
+void FormWindow::setTitle(const std::string& title) { SetWindowTextW(window_, wide(title).c_str()); }
+
+// A window procedure must never let an error out: what escapes the core goes to the form's report.
+void FormWindow::personAction(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const std::exception& e) {
+    form_.reportError(e.what());
+  }
+  flush();
+  if (onPersonAction) onPersonAction();
+}
+
+bool FormWindow::preTranslate(MSG& message) {
+  if (message.message < WM_KEYFIRST || message.message > WM_KEYLAST) return false;
+  if (message.hwnd != window_ && !IsChild(window_, message.hwnd)) return false;
+  // Ctrl+Tab and Ctrl+Shift+Tab step through the pages that show, wherever the focus is.
+  if (message.message == WM_KEYDOWN && message.wParam == VK_TAB && (GetKeyState(VK_CONTROL) & 0x8000)) {
+    const int step = (GetKeyState(VK_SHIFT) & 0x8000) ? -1 : 1;
+    const int target = form_.MultiPage1.visiblePageFrom(form_.MultiPage1.value(), step);
+    if (target >= 0) personAction([&] { form_.MultiPage1.setValue(target); });
+    return true;
+  }
+  return IsDialogMessageW(window_, &message) != FALSE;
+}
+
+LRESULT CALLBACK FormWindow::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_NCCREATE) {
+    const auto* create = reinterpret_cast<const CREATESTRUCTW*>(lParam);
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(create->lpCreateParams));
+  }
+  auto* self = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  if (!self || !self->window_) return DefWindowProcW(window, message, wParam, lParam);
+  // Nothing may unwind through Windows' own code.
+  try {
+    return self->handle(message, wParam, lParam);
+  } catch (const std::exception& e) {
+    try {
+      self->form_.reportError(e.what());
+    } catch (...) {
+    }
+  } catch (...) {
+  }
+  return 0;
+}
+
+LRESULT FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_COMMAND:
+      if (lParam) {
+        if (ControlView* view = viewOf(reinterpret_cast<HWND>(lParam))) view->command(HIWORD(wParam));
+        return 0;
+      }
+      // Enter with a button focused presses it, as Space does; elsewhere it does nothing.
+      if (LOWORD(wParam) == IDOK) {
+        HWND focus = GetFocus();
+        wchar_t kind[16]{};
+        if (focus && GetClassNameW(focus, kind, 16) && lstrcmpiW(kind, L"Button") == 0) SendMessageW(focus, BM_CLICK, 0, 0);
+        return 0;
+      }
+      if (LOWORD(wParam) != IDCANCEL && onMenu) onMenu(LOWORD(wParam));
+      return 0;
+    case WM_NOTIFY: {
+      const auto* header = reinterpret_cast<const NMHDR*>(lParam);
+      if (ControlView* view = viewOf(header->hwndFrom)) view->notify(header->code);
+      return 0;
+    }
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLORBTN:
+      SetBkColor(reinterpret_cast<HDC>(wParam), GetSysColor(COLOR_BTNFACE));
+      return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE));
+    case WM_GETFONT: return reinterpret_cast<LRESULT>(font_);
+    case kFlush:
+      if (flushQueued_) flush();
+      return 0;
+    case kPosted: {
+      const std::unique_ptr<std::function<void()>> action(reinterpret_cast<std::function<void()>*>(lParam));
+      personAction(*action);
+      return 0;
+    }
+    case WM_CLOSE:
+      if (onClose) {
+        onClose();
+      } else {
+        personAction([&] { form_.setVisible(false); });
+      }
+      return 0;
+    case WM_ACTIVATE:
+      // The focus comes back where it was when the window is activated again.
+      if (LOWORD(wParam) == WA_INACTIVE) {
+        lastFocus_ = GetFocus();
+      } else if (lastFocus_ && IsChild(window_, lastFocus_) && IsWindowVisible(lastFocus_)) {
+        SetFocus(lastFocus_);
+        return 0;
+      }
+      break;
+    case WM_SIZE: updateScrollBars(); break;
+    case WM_HSCROLL:
+    case WM_VSCROLL: scroll(message == WM_HSCROLL ? SB_HORZ : SB_VERT, LOWORD(wParam)); return 0;
+    case WM_MOUSEWHEEL: scrollTo(SB_VERT, scrolled_.y - GET_WHEEL_DELTA_WPARAM(wParam) * scale_(60) / WHEEL_DELTA); return 0;
+    case WM_DPICHANGED: {
+      layout();
+      const auto* suggested = reinterpret_cast<const RECT*>(lParam);
+      SetWindowPos(window_, nullptr, suggested->left, suggested->top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+      return 0;
+    }
+    default: break;
+  }
+  return DefWindowProcW(window_, message, wParam, lParam);
+}
+
+}  // namespace pellam::win

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include <windows.h>
+
+#include "control_view.h"
+#include "ui/user_form.h"
+
+namespace pellam::win {
+
+// UserForm1 drawn with Windows' own controls: one window per row of the control table, placed
+// where the table says at the monitor's scale, made when its page is first shown. The form's
+// change notification marks controls; they are redrawn once the handler that changed them has
+// finished, or when the window's queue next runs. The window shows while the form is loaded
+// and visible.
+class FormWindow {
+ public:
+  // Made hidden; `menu` for a program whose main window the form is.
+  explicit FormWindow(ui::UserForm1& form, HMENU menu = nullptr);
+  ~FormWindow();
+  FormWindow(const FormWindow&) = delete;
+  FormWindow& operator=(const FormWindow&) = delete;
+
+  HWND window() const { return window_; }
+  // The window of a control, its page built when needed; nullptr for a name not on the form.
+  HWND windowFor(std::string_view name);
+  // Redraws every marked control now.
+  void flush();
+  // Keyboard of a dialog for a message bound for the form: Tab, Shift+Tab, Enter, Ctrl+Tab
+  // across the shown pages. True when it was handled and must not be dispatched.
+  bool preTranslate(MSG& message);
+  // Whether the form's current page is built and drawn: for tests and measurements.
+  const ui::UserForm1& form() const { return form_; }
+  void setTitle(const std::string& title);
+  // Runs `action` as a person's, on the window's thread, soon; callable from any thread.
+  void post(std::function<void()> action);
+  // Runs a person's action (a control's, or a menu command's): what escapes it is reported
+  // once and the form stays usable.
+  void personAction(const std::function<void()>& action);
+
+  // Told after a person's action has run, so that the window can show whether the job changed.
+  std::function<void()> onPersonAction;
+  // The person closed the window; without it the form hides.
+  std::function<void()> onClose;
+  // A menu command.
+  std::function<void(WORD id)> onMenu;
+
+  // The procedure of the form's window class.
+  static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+ private:
+  LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
+  void changed(const ui::Control* control);
+  const ui::Control* pageOf(const ui::Control& control) const;
+  ControlView& add(ui::Control& control, HWND parent);
+  void build(const ui::Control* page);
+  void orderTabs(const ui::Control& page);
+  void showPage(int index);
+  void layout();
+  // Small screens scroll rather than cut a control off.
+  void updateScrollBars();
+  void scrollTo(int bar, int position);
+  void scroll(int bar, WORD request);
+  void redrawAll();
+  void followForm();
+
+  ui::UserForm1& form_;
+  HWND window_ = nullptr;
+  HFONT font_ = nullptr;
+  Scale scale_;
+  POINT content_{};   // the form's size at the window's scale
+  POINT scrolled_{};  // how far the form is scrolled
+  std::vector<std::unique_ptr<ControlView>> views_;  // table order
+  std::unordered_map<const ui::Control*, ControlView*> byControl_;
+  std::unordered_map<const ui::Control*, std::vector<ui::Control*>> unbuilt_;  // by page, table order
+  std::vector<ControlView*> dirty_;
+  ControlView* multiPage_ = nullptr;
+  std::vector<ControlView*> pages_;  // by page index
+  HWND lastFocus_ = nullptr;
+  bool flushQueued_ = false;
+  bool everything_ = false;
+  ui::UserForm1::Subscription subscription_;
+};
+
+}  // namespace pellam::win

@@ -139,6 +139,12 @@ std::string SaveJobSequence(Session& s, const std::string& jobPath, const std::s
   return zpd;
 }
 
+void PackJobImage(Session& s) {
+  packSettings(s);
+  files::JobFiles unwritten("job.txt", s.inputBank);
+  if (const OperatingMode* mode = operatingMode(s.job.board.OperatingMode)) mode->save(s, unwritten);
+}
+
 void DecodeImage(Session& s) {
   ui::Dialogs& d = s.dialogs();
   // Reading the board bytes cannot fail: every offset lies inside the image.
@@ -187,6 +193,16 @@ bool OpenJobSequence(Session& s, const std::string& path) {
   if (mode && mode->keepsReport) s.companionReport = files::ReadTextFile(files::companionReportPath(path)).value_or("");
   s.markUnmodified();
   return true;
+}
+
+void OpenImageBytes(Session& s, std::span<const std::uint8_t> bytes) {
+  s.form.load();
+  image::ClearRoomTables(s.job);
+  const std::size_t read = std::min<std::size_t>(bytes.size(), image::map::kZpdSize);
+  std::copy_n(bytes.begin(), read, s.image.bytes().begin());
+  s.image.fill(std::max<int>(image::map::kClearFirst, static_cast<int>(read)), image::map::kClearLast, 0);
+  DecodeImage(s);
+  s.markUnmodified();
 }
 
 }  // namespace pellam::component

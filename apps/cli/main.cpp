@@ -1,5 +1,6 @@
 #include <CLI/CLI.hpp>
 
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -117,7 +118,10 @@ int importJob(const std::string& document, const std::string& jobPath) {
     }
     text.assign(std::istreambuf_iterator<char>(in), {});
   }
-  const auto imported = pellam::tools::importJob(text, jobPath);
+  // The form's save wants a folder; a bare name is the current folder's.
+  std::error_code error;
+  const auto absolute = std::filesystem::absolute(pellam::files::fsPath(jobPath), error);
+  const auto imported = pellam::tools::importJob(text, error ? jobPath : pellam::files::utf8Text(absolute));
   if (!imported.problem.empty()) {
     std::cerr << "pellam: " << document << ": " << imported.problem << "\n";
     return kRefused;

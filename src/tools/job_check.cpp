@@ -32,7 +32,8 @@ class Checker {
 
   std::vector<Finding> run(std::size_t size) {
     if (size != static_cast<std::size_t>(kZpdSize)) {
-      add(true, static_cast<int>(std::min<std::size_t>(size, kZpdSize)), "size " + std::to_string(size) + " bytes, not 32,767");
+      findings_.push_back({file_, static_cast<int>(std::min<std::size_t>(size, kZpdSize)), "file size", true,
+                           std::to_string(size) + " bytes, not 32,767"});
     }
     if (at(kProductTypeByte) != kProductTypeValue) add(true, kProductTypeByte, "file type " + std::to_string(at(kProductTypeByte)) + ", not 11");
     const int mode = at(kOperatingModeByte);
@@ -45,6 +46,7 @@ class Checker {
     if (mode == 3 || mode == 5) stationsNamed(mode);
     if (at(kMasterSlaveByte) == 0 && mode >= 1 && mode <= 5) slavedTables();
     if (mode >= 1 && mode <= 5) notKept();
+    std::stable_sort(findings_.begin(), findings_.end(), [](const Finding& a, const Finding& b) { return a.offset < b.offset; });
     return std::move(findings_);
   }
 
@@ -173,23 +175,37 @@ class Checker {
   }
 
   // What the form would write back after opening this image: bytes it would not keep are
-  // entries it cannot read or cannot store, reported once per region.
+  // entries it cannot read or cannot store. One warning per region, and none where an error
+  // already stands.
   void notKept() {
     std::ostringstream messages;
     component::UnattendedSession session(messages);
     component::OpenImageBytes(*session, image_);
     component::PackJobImage(*session);
     const auto saved = session->image.bytes();
-    std::string lastRegion;
+    std::vector<std::pair<std::string, int>> regions;  // region, first offset
+    std::vector<int> counts;
     for (int a = 0; a < kZpdSize; ++a) {
       if (saved[static_cast<std::size_t>(a)] == image_[static_cast<std::size_t>(a)]) continue;
-      const std::string region = image::regionName(a);
-      if (region == lastRegion) continue;
-      lastRegion = region;
-      add(false, a, "byte " + std::to_string(at(a)) + " that a save would not keep (it writes " +
-                        std::to_string(saved[static_cast<std::size_t>(a)]) + ")");
+      const std::string region = wholeRegion(image::regionName(a));
+      if (regions.empty() || regions.back().first != region) {
+        regions.push_back({region, a});
+        counts.push_back(0);
+      }
+      ++counts.back();
+    }
+    for (std::size_t i = 0; i < regions.size(); ++i) {
+      const auto& [region, first] = regions[i];
+      const bool explained = std::any_of(findings_.begin(), findings_.end(),
+                                         [&](const Finding& f) { return f.error && wholeRegion(f.region) == region; });
+      if (explained) continue;
+      add(false, first, std::to_string(counts[i]) + (counts[i] == 1 ? " byte" : " bytes") + " that a save would not keep (the first " +
+                            std::to_string(at(first)) + ", saved as " + std::to_string(saved[static_cast<std::size_t>(first)]) + ")");
     }
   }
+
+  // "per-input block 3" of "per-input block 3 (+12)".
+  static std::string wholeRegion(const std::string& name) { return name.substr(0, name.find(" (")); }
 
   const image::EepromImage& image() {
     std::copy(image_.begin(), image_.end(), scratch_.bytes().begin());

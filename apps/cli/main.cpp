@@ -155,7 +155,7 @@ int main(int argc, char** argv) {
   CLI::App app{"pellam: set up the contact-closure input board of a networked dimming system", "pellam"};
   app.set_version_flag("--version", "pellam 0.1.0");
   app.require_subcommand(1);
-  app.footer("'pellam COMMAND --help' tells more of each command.");
+  app.footer("'pellam COMMAND --help' tells more of each command.\n");
 
   std::string script;
   auto* run = app.add_subcommand("run", "run a form script (\"-\" reads standard input)");
@@ -198,6 +198,9 @@ int main(int argc, char** argv) {
   upload->add_option("--to", address, "the controller, ADDRESS[:PORT]")->required();
   upload->add_flag("--force", force, "send an image with errors all the same");
 
+  for (CLI::App* command : app.get_subcommands({})) {
+    if (command != run) command->footer("");
+  }
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& e) {

@@ -13,53 +13,80 @@ namespace {
 
 // The single bytes of the board setup, as memory_map.h lists them.
 constexpr std::array<std::pair<int, const char*>, 13> kBoardBytes = {{
-    {kHardwareTypeByte, "hardware type"},
-    {kProductTypeByte, "file type"},
-    {kMasterSlaveByte, "master/slave"},
-    {kSlaveIdByte, "slave id"},
-    {kInputActionByte, "input action"},
-    {kOffsetFlagByte, "offset flag"},
-    {kOptionFlagsByte, "option flags"},
-    {kTimerHighByte, "timer"},
-    {kTimerLowByte, "timer"},
-    {kOperatingModeByte, "operating mode"},
-    {kFurtherOptionByte, "further option"},
-    {kInputScanByte, "input scan"},
     {kSignatureByte, "signature"},
+    {kHardwareTypeByte, "board setup: hardware type"},
+    {kProductTypeByte, "board setup: file type"},
+    {kMasterSlaveByte, "board setup: master/slave"},
+    {kSlaveIdByte, "board setup: slave id"},
+    {kInputActionByte, "board setup: input action"},
+    {kOffsetFlagByte, "board setup: offset flag"},
+    {kOptionFlagsByte, "board setup: option flags"},
+    {kTimerHighByte, "board setup: timer"},
+    {kTimerLowByte, "board setup: timer"},
+    {kOperatingModeByte, "board setup: operating mode"},
+    {kFurtherOptionByte, "board setup: further option"},
+    {kInputScanByte, "board setup: input scan"},
 }};
 
-}  // namespace
+// The first offset after `offset` where a region starts, or the image's end.
+int nextRegion(int offset) {
+  int next = kImageSize;
+  auto consider = [&](int first) {
+    if (first > offset && first < next) next = first;
+  };
+  for (const auto& [at, name] : kBoardBytes) consider(at);
+  for (int first : {kMasterInputsBase, kInputNumberingPerInputBase, kStationFormBBase, kPersonalityByNetIdBase + 1, kRoomLinkBase}) {
+    consider(first);
+  }
+  for (int k = 1; k <= 2 * kInputsPerBank; ++k) consider(blockBase(k));
+  for (int page = 1; page <= kRemoteCommandPages; ++page) consider(remoteCommandPageBase(page));
+  return next;
+}
 
-std::string regionName(int offset) {
+// A region and, for a person, where in it the offset lies.
+std::pair<Region, std::string> locate(int offset) {
+  auto in = [&](int first, int last) { return offset >= first && offset <= last; };
   for (const auto& [at, name] : kBoardBytes) {
-    if (offset == at) return std::string(at == kSignatureByte ? "" : "board setup: ") + name;
+    if (offset == at) return {{at, at, name}, {}};
   }
-  if (offset >= kMasterInputsBase && offset < kMasterInputsBase + kMasterInputCount) {
-    return "master input " + std::to_string(offset - kMasterInputsBase + 1);
+  if (in(kMasterInputsBase, kMasterInputsBase + kMasterInputCount - 1)) {
+    return {{kMasterInputsBase, kMasterInputsBase + kMasterInputCount - 1, "master inputs"}, "input " + std::to_string(offset - kMasterInputsBase + 1)};
   }
-  if (offset <= kRoomCombineMapLast) return "room-combine map (channel " + std::to_string((offset - kRoomCombineMapBase) / 2) + ")";
-  if (offset >= kInputNumberingPerInputBase && offset < kInputNumberingPerInputBase + kInputNumberingRecords) {
-    return "input numbering (input " + std::to_string(offset - kInputNumberingPerInputBase) + ")";
+  if (in(kRoomCombineMapBase, kRoomCombineMapLast)) {
+    return {{kRoomCombineMapBase, kRoomCombineMapLast, "room-combine map"}, "channel " + std::to_string((offset - kRoomCombineMapBase) / 2)};
   }
-  if (offset >= kStationFormBBase && offset <= kStationSlotsLast) {
-    return "station slots (row " + std::to_string((offset - kStationFormBBase) / kStationSlotSize) + ")";
+  const int numberingLast = kInputNumberingPerInputBase + kInputNumberingRecords - 1;
+  if (in(kInputNumberingPerInputBase, numberingLast)) {
+    return {{kInputNumberingPerInputBase, numberingLast, "input numbering"}, "input " + std::to_string(offset - kInputNumberingPerInputBase)};
   }
-  if (offset > kPersonalityByNetIdBase && offset <= kPersonalityByNetIdBase + 255) {
-    return "station personality (net id " + std::to_string(offset - kPersonalityByNetIdBase) + ")";
+  if (in(kStationFormBBase, kStationSlotsLast)) {
+    return {{kStationFormBBase, kStationSlotsLast, "station slots"}, "row " + std::to_string((offset - kStationFormBBase) / kStationSlotSize)};
   }
-  if (offset >= kRoomLinkBase && offset < roomLinkRowBase(kRoomLinkRows)) {
-    return "room links (row " + std::to_string((offset - kRoomLinkBase) / 2) + ")";
+  if (in(kPersonalityByNetIdBase + 1, kPersonalityByNetIdBase + 255)) {
+    return {{kPersonalityByNetIdBase + 1, kPersonalityByNetIdBase + 255, "station personalities"}, "net id " + std::to_string(offset - kPersonalityByNetIdBase)};
+  }
+  if (in(kRoomLinkBase, roomLinkRowBase(kRoomLinkRows) - 1)) {
+    return {{kRoomLinkBase, roomLinkRowBase(kRoomLinkRows) - 1, "room links"}, "row " + std::to_string((offset - kRoomLinkBase) / 2)};
   }
   for (int k = 1; k <= 2 * kInputsPerBank; ++k) {
-    if (offset >= blockBase(k) && offset < blockBase(k) + kBlockSize) {
-      return "per-input block " + std::to_string(k) + " (+" + std::to_string(offset - blockBase(k)) + ")";
+    if (in(blockBase(k), blockBase(k) + kBlockSize - 1)) {
+      return {{blockBase(k), blockBase(k) + kBlockSize - 1, "per-input block " + std::to_string(k)}, "+" + std::to_string(offset - blockBase(k))};
     }
   }
   for (int page = 1; page <= kRemoteCommandPages; ++page) {
     const int base = remoteCommandPageBase(page);
-    if (offset >= base && offset < base + kRemoteCommandPageSize) return "remote commands page " + std::to_string(page);
+    if (in(base, base + kRemoteCommandPageSize - 1)) return {{base, base + kRemoteCommandPageSize - 1, "remote commands page " + std::to_string(page)}, {}};
   }
-  return "unused";
+  return {{offset, nextRegion(offset) - 1, "unused"}, {}};
+}
+
+}  // namespace
+
+Region regionOf(int offset) { return locate(offset).first; }
+
+std::string regionName(int offset) {
+  auto [region, where] = locate(offset);
+  return where.empty() ? region.name : region.name + " (" + where + ")";
 }
 
 }  // namespace pellam::image

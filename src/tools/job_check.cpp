@@ -183,29 +183,32 @@ class Checker {
     component::OpenImageBytes(*session, image_);
     component::PackJobImage(*session);
     const auto saved = session->image.bytes();
-    std::vector<std::pair<std::string, int>> regions;  // region, first offset
-    std::vector<int> counts;
+    std::set<std::string> errored;
+    for (const Finding& f : findings_) {
+      if (f.error) errored.insert(image::regionOf(f.offset).name);
+    }
+    image::Region region{-1, -1, {}};
+    int first = 0, count = 0;
+    auto report = [&] {
+      if (count == 0 || errored.contains(region.name)) return;
+      add(false, first, std::to_string(count) + (count == 1 ? " byte" : " bytes") + " that a save would not keep (the first " +
+                            std::to_string(at(first)) + ", saved as " + std::to_string(saved[static_cast<std::size_t>(first)]) + ")");
+    };
     for (int a = 0; a < kZpdSize; ++a) {
       if (saved[static_cast<std::size_t>(a)] == image_[static_cast<std::size_t>(a)]) continue;
-      const std::string region = wholeRegion(image::regionName(a));
-      if (regions.empty() || regions.back().first != region) {
-        regions.push_back({region, a});
-        counts.push_back(0);
+      if (a > region.last) {
+        image::Region next = image::regionOf(a);
+        if (next.name != region.name) {
+          report();
+          first = a;
+          count = 0;
+        }
+        region = std::move(next);
       }
-      ++counts.back();
+      ++count;
     }
-    for (std::size_t i = 0; i < regions.size(); ++i) {
-      const auto& [region, first] = regions[i];
-      const bool explained = std::any_of(findings_.begin(), findings_.end(),
-                                         [&](const Finding& f) { return f.error && wholeRegion(f.region) == region; });
-      if (explained) continue;
-      add(false, first, std::to_string(counts[i]) + (counts[i] == 1 ? " byte" : " bytes") + " that a save would not keep (the first " +
-                            std::to_string(at(first)) + ", saved as " + std::to_string(saved[static_cast<std::size_t>(first)]) + ")");
-    }
+    report();
   }
-
-  // "per-input block 3" of "per-input block 3 (+12)".
-  static std::string wholeRegion(const std::string& name) { return name.substr(0, name.find(" (")); }
 
   const image::EepromImage& image() {
     std::copy(image_.begin(), image_.end(), scratch_.bytes().begin());

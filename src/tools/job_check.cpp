@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <set>
 #include <sstream>
 
@@ -23,6 +24,17 @@ namespace pellam::tools {
 using namespace image::map;
 
 namespace {
+
+// One session for every image a process checks: starting a session builds the form's lists,
+// which costs more than a check. Each image starts from the job a new session has.
+component::Session& checkingSession() {
+  static std::ostringstream messages;
+  static component::UnattendedSession session(messages);
+  static const job::Job fresh = session->job;
+  session->job = fresh;
+  messages.str("");
+  return *session;
+}
 
 class Checker {
  public:
@@ -129,14 +141,22 @@ class Checker {
       linked.insert(at(roomLinkRowBase(row)));
       linked.insert(at(roomLinkRowBase(row) + 1));
     }
+    std::map<int, std::pair<int, int>> unlinked;  // room: its first channel's offset, channels
     for (int c = 1; c <= kRoomCombineLastChannel; ++c) {
       const int a = kRoomCombineMapBase + 2 * c;
       if (at(a) == 0 && at(a + 1) == 0) continue;
       if (at(a) == 0 || at(a + 1) == 0) {
         add(true, at(a) == 0 ? a : a + 1, "channel " + std::to_string(c) + " with " + (at(a) == 0 ? "group" : "room") + " 0, which no list shows");
       } else if (!linked.contains(at(a + 1))) {
-        add(false, a + 1, "channel " + std::to_string(c) + " is in room " + std::to_string(at(a + 1)) + ", which no room link combines");
+        auto& [first, count] = unlinked.try_emplace(at(a + 1), a + 1, 0).first->second;
+        ++count;
       }
+    }
+    for (const auto& [room, where] : unlinked) {
+      const int channel = (where.first - kRoomCombineMapBase) / 2;
+      add(false, where.first, "room " + std::to_string(room) + " has " + std::to_string(where.second) +
+                                  (where.second == 1 ? " channel" : " channels") + " from channel " + std::to_string(channel) +
+                                  " on, and no room link combines it");
     }
   }
 
@@ -178,11 +198,10 @@ class Checker {
   // entries it cannot read or cannot store. One warning per region, and none where an error
   // already stands.
   void notKept() {
-    std::ostringstream messages;
-    component::UnattendedSession session(messages);
-    component::OpenImageBytes(*session, image_);
-    component::PackJobImage(*session);
-    const auto saved = session->image.bytes();
+    component::Session& session = checkingSession();
+    component::OpenImageBytes(session, image_);
+    component::PackJobImage(session);
+    const auto saved = session.image.bytes();
     std::set<std::string> errored;
     for (const Finding& f : findings_) {
       if (f.error) errored.insert(image::regionOf(f.offset).name);

@@ -159,7 +159,8 @@ class Reader {
   }
   static void only(const Json& object, const std::string& path, std::initializer_list<const char*> names) {
     if (!object.is_object()) throw Refusal{path, "not an object"};
-    for (const auto& [key, unused] : object.items()) {
+    for (const auto& item : object.items()) {
+      const std::string& key = item.key();
       if (std::find_if(names.begin(), names.end(), [&](const char* n) { return key == n; }) == names.end()) {
         throw Refusal{path + "." + key, "not a field of this record"};
       }

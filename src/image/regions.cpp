@@ -28,6 +28,13 @@ constexpr std::array<std::pair<int, const char*>, 13> kBoardBytes = {{
     {kInputScanByte, "board setup: input scan"},
 }};
 
+// "row 3": built in place, as g++ 12 warns wrongly of a literal put before a temporary string.
+std::string numbered(const char* label, int n) {
+  std::string text = label;
+  text += std::to_string(n);
+  return text;
+}
+
 // The first offset after `offset` where a region starts, or the image's end.
 int nextRegion(int offset) {
   int next = kImageSize;
@@ -50,32 +57,32 @@ std::pair<Region, std::string> locate(int offset) {
     if (offset == at) return {{at, at, name}, {}};
   }
   if (in(kMasterInputsBase, kMasterInputsBase + kMasterInputCount - 1)) {
-    return {{kMasterInputsBase, kMasterInputsBase + kMasterInputCount - 1, "master inputs"}, "input " + std::to_string(offset - kMasterInputsBase + 1)};
+    return {{kMasterInputsBase, kMasterInputsBase + kMasterInputCount - 1, "master inputs"}, numbered("input ", offset - kMasterInputsBase + 1)};
   }
   if (in(kRoomCombineMapBase, kRoomCombineMapLast)) {
-    return {{kRoomCombineMapBase, kRoomCombineMapLast, "room-combine map"}, "channel " + std::to_string((offset - kRoomCombineMapBase) / 2)};
+    return {{kRoomCombineMapBase, kRoomCombineMapLast, "room-combine map"}, numbered("channel ", (offset - kRoomCombineMapBase) / 2)};
   }
   const int numberingLast = kInputNumberingPerInputBase + kInputNumberingRecords - 1;
   if (in(kInputNumberingPerInputBase, numberingLast)) {
-    return {{kInputNumberingPerInputBase, numberingLast, "input numbering"}, "input " + std::to_string(offset - kInputNumberingPerInputBase)};
+    return {{kInputNumberingPerInputBase, numberingLast, "input numbering"}, numbered("input ", offset - kInputNumberingPerInputBase)};
   }
   if (in(kStationFormBBase, kStationSlotsLast)) {
-    return {{kStationFormBBase, kStationSlotsLast, "station slots"}, "row " + std::to_string((offset - kStationFormBBase) / kStationSlotSize)};
+    return {{kStationFormBBase, kStationSlotsLast, "station slots"}, numbered("row ", (offset - kStationFormBBase) / kStationSlotSize)};
   }
   if (in(kPersonalityByNetIdBase + 1, kPersonalityByNetIdBase + 255)) {
-    return {{kPersonalityByNetIdBase + 1, kPersonalityByNetIdBase + 255, "station personalities"}, "net id " + std::to_string(offset - kPersonalityByNetIdBase)};
+    return {{kPersonalityByNetIdBase + 1, kPersonalityByNetIdBase + 255, "station personalities"}, numbered("net id ", offset - kPersonalityByNetIdBase)};
   }
   if (in(kRoomLinkBase, roomLinkRowBase(kRoomLinkRows) - 1)) {
-    return {{kRoomLinkBase, roomLinkRowBase(kRoomLinkRows) - 1, "room links"}, "row " + std::to_string((offset - kRoomLinkBase) / 2)};
+    return {{kRoomLinkBase, roomLinkRowBase(kRoomLinkRows) - 1, "room links"}, numbered("row ", (offset - kRoomLinkBase) / 2)};
   }
   for (int k = 1; k <= 2 * kInputsPerBank; ++k) {
     if (in(blockBase(k), blockBase(k) + kBlockSize - 1)) {
-      return {{blockBase(k), blockBase(k) + kBlockSize - 1, "per-input block " + std::to_string(k)}, "+" + std::to_string(offset - blockBase(k))};
+      return {{blockBase(k), blockBase(k) + kBlockSize - 1, numbered("per-input block ", k)}, numbered("+", offset - blockBase(k))};
     }
   }
   for (int page = 1; page <= kRemoteCommandPages; ++page) {
     const int base = remoteCommandPageBase(page);
-    if (in(base, base + kRemoteCommandPageSize - 1)) return {{base, base + kRemoteCommandPageSize - 1, "remote commands page " + std::to_string(page)}, {}};
+    if (in(base, base + kRemoteCommandPageSize - 1)) return {{base, base + kRemoteCommandPageSize - 1, numbered("remote commands page ", page)}, {}};
   }
   return {{offset, nextRegion(offset) - 1, "unused"}, {}};
 }
@@ -86,7 +93,11 @@ Region regionOf(int offset) { return locate(offset).first; }
 
 std::string regionName(int offset) {
   auto [region, where] = locate(offset);
-  return where.empty() ? region.name : region.name + " (" + where + ")";
+  if (where.empty()) return region.name;
+  region.name += " (";
+  region.name += where;
+  region.name += ")";
+  return region.name;
 }
 
 }  // namespace pellam::image

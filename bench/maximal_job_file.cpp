@@ -1,5 +1,6 @@
-// Writes a maximal room-combine job for the COM benchmark and times the save a host's save
-// runs on it here:  pellam_maximal_job FOLDER [SAVES]
+// Writes a maximal job (room combine unless MODE says otherwise) for the benchmarks and the
+// job tools' tests, and times the save a host's save runs on it here:
+//   pellam_maximal_job FOLDER [SAVES [MODE]]
 // The job is saved as FOLDER/Max.txt, opened again as a host would, then saved SAVES times.
 #include <chrono>
 #include <cstdlib>
@@ -14,12 +15,12 @@
 int main(int argc, char** argv) {
   using namespace pellam;
   if (argc < 2) {
-    std::cerr << "usage: pellam_maximal_job FOLDER [SAVES]\n";
+    std::cerr << "usage: pellam_maximal_job FOLDER [SAVES [MODE]]\n";
     return 2;
   }
   std::ostringstream log;
   component::UnattendedSession session(log);
-  bench::fillMaximalJob(*session, 3);
+  bench::fillMaximalJob(*session, argc > 3 ? std::atoi(argv[3]) : 3);
   const std::string job = std::string(argv[1]) + "/Max.txt";
   const std::string zpd = component::SaveJobSequence(*session, job, "Directory Not Found");
   if (zpd.empty()) {

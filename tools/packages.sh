@@ -12,6 +12,6 @@ ensure_packages() {
   DEBIAN_FRONTEND=noninteractive "${sudo[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}"
 }
 
-BUILD_PACKAGES=(cmake ninja-build g++ make libcurl4-openssl-dev)
+BUILD_PACKAGES=(cmake ninja-build g++ make libcurl4-openssl-dev libcli11-dev nlohmann-json3-dev)
 TEST_PACKAGES=(clang libgtest-dev libbenchmark-dev g++-mingw-w64-x86-64 g++-mingw-w64-i686 mingw-w64-tools libwine-dev
-  python3-pyftpdlib qt6-base-dev xvfb xauth)
+  python3-pyftpdlib python3-jsonschema qt6-base-dev xvfb xauth)

@@ -126,18 +126,6 @@ void addJobFiles(Session& s, files::JobFiles& files, bool withReport) {
   }
 }
 
-// Labels are read back when the job has a file of them; a damaged line is named and passed
-// over, the others kept.
-void readLabels(Session& s, const std::string& zpdPath) {
-  const std::string path = files::jobPrefix(zpdPath) + files::kLabelsSuffix;
-  const std::optional<std::string> text = files::ReadTextFile(path);
-  files::ReadLabels read = text ? files::ParseLabels(*text) : files::ReadLabels{};
-  s.job.roomGroupNames = std::move(read.names);
-  s.namingPage.listDecoded();
-  if (read.badLine > 0) {
-    s.dialogs().msgBox("Labels Not Read: " + path + " Line " + std::to_string(read.badLine), ui::Buttons::OK);
-  }
-}
 
 // Only a job image this program saves becomes the save target: 32,767 bytes of the right type
 // under the name its own save would give it.
@@ -206,6 +194,25 @@ std::string SaveJobSequence(Session& s, const std::string& jobPath, const std::s
   return zpd;
 }
 
+void PackJobImage(Session& s) {
+  packSettings(s);
+  files::JobFiles unwritten("job.txt", s.inputBank);
+  if (const OperatingMode* mode = operatingMode(s.job.board.OperatingMode)) mode->save(s, unwritten);
+}
+
+// Labels are read back when the job has a file of them; a damaged line is named and passed
+// over, the others kept.
+void ReadJobLabels(Session& s, const std::string& zpdPath) {
+  const std::string path = files::jobPrefix(zpdPath) + files::kLabelsSuffix;
+  const std::optional<std::string> text = files::ReadTextFile(path);
+  files::ReadLabels read = text ? files::ParseLabels(*text) : files::ReadLabels{};
+  s.job.roomGroupNames = std::move(read.names);
+  s.namingPage.listDecoded();
+  if (read.badLine > 0) {
+    s.dialogs().msgBox("Labels Not Read: " + path + " Line " + std::to_string(read.badLine), ui::Buttons::OK);
+  }
+}
+
 void DecodeImage(Session& s) {
   ui::Dialogs& d = s.dialogs();
   // Reading the board bytes cannot fail: every offset lies inside the image.
@@ -255,9 +262,19 @@ bool OpenJobSequence(Session& s, const std::string& path) {
   s.companionReport.clear();
   const OperatingMode* mode = operatingMode(s.job.board.OperatingMode);
   if (mode && mode->keepsReport) s.companionReport = files::ReadTextFile(files::companionReportPath(path)).value_or("");
-  readLabels(s, path);
+  ReadJobLabels(s, path);
   s.markUnmodified();
   return true;
+}
+
+void OpenImageBytes(Session& s, std::span<const std::uint8_t> bytes) {
+  s.form.load();
+  image::ClearRoomTables(s.job);
+  const std::size_t read = std::min<std::size_t>(bytes.size(), image::map::kZpdSize);
+  std::copy_n(bytes.begin(), read, s.image.bytes().begin());
+  s.image.fill(std::max<int>(image::map::kClearFirst, static_cast<int>(read)), image::map::kClearLast, 0);
+  DecodeImage(s);
+  s.markUnmodified();
 }
 
 }  // namespace pellam::component

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -31,9 +33,21 @@ std::string SaveJobSequence(Session& session, const std::string& jobPath, const 
 // nothing written: what a recovery copy keeps of the job.
 std::vector<files::JobFile> RecoveryFiles(Session& session, const std::string& jobPath);
 
+// Packs the job into the session's image as a save does, and writes no file: the image a save
+// would write.
+void PackJobImage(Session& session);
+
+// The room and group labels kept beside a job image, when it has a file of them; a damaged line
+// is named and passed over.
+void ReadJobLabels(Session& session, const std::string& zpdPath);
+
 // Clears, reads and decodes an image file; a file that cannot be read is refused with a
 // message and changes nothing.
 bool OpenJobSequence(Session& session, const std::string& path);
+
+// Opens an image already read, as OpenJobSequence opens a file of those bytes (the first
+// 32,767 count; a shorter image reads as one ending in zeros). For the job tools.
+void OpenImageBytes(Session& session, std::span<const std::uint8_t> bytes);
 
 // Decodes the session's image into the board page, the tables and the pages of the mode.
 void DecodeImage(Session& session);

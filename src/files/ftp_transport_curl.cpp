@@ -145,6 +145,7 @@ class CurlTransport final : public FtpTransport {
 
 }  // namespace
 
-std::unique_ptr<FtpTransport> makeSystemFtpTransport() { return std::make_unique<CurlTransport>(); }
-
 }  // namespace pellam::files
+
+// The plugin's one entry point: ftp_transport_plugin.cpp loads this library on the first upload.
+extern "C" pellam::files::FtpTransport* pellam_make_curl_transport() { return new pellam::files::CurlTransport(); }

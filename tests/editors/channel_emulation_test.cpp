@@ -52,6 +52,15 @@ TEST_F(ChannelEmulationPageTest, RangeListEndsAtTheLastChannel) {
   }
 }
 
+// An opened job shows its first input in use, the last input too.
+TEST_F(ChannelEmulationPageTest, AnOpenedJobShowsItsFirstInputInUse) {
+  f.ComboBox26.select(16);
+  add(5, 0, 1);
+  f.ComboBox26.select(1);
+  desk.session().channelEmulationPage.listDecoded();
+  EXPECT_EQ(f.ComboBox26.listIndex(), 16);
+}
+
 TEST_F(ChannelEmulationPageTest, TheHundredAndFiftyFirstChannelIsRefusedAndTheRestStay) {
   add(1, 140, 50);
   add(200, 215, 50);

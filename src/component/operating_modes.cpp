@@ -33,7 +33,7 @@ void decodeRoomLink(Session& s, int mode) {
 }
 
 const std::array<OperatingMode, 5> kModes = {{
-    {1, &UserForm1::Page2, &UserForm1::Page7, false, {".txt"},
+    {1, &UserForm1::Page2, &UserForm1::Page7, false, {".txt"}, {"channelEmulation"},
      [](Session& s, files::JobFiles& files) {
        files.perInput(".txt", 1, [&](int k) { return files::ChannelInputText(s.job.channelEmulation, k); });
        // An input that cannot be stored is named and skipped; the others are still packed.
@@ -47,9 +47,10 @@ const std::array<OperatingMode, 5> kModes = {{
        s.channelEmulationPage.listDecoded();
      },
      listChannelEmulation},
-    {2, &UserForm1::Page3, nullptr, false, {".txt"}, [](Session& s, files::JobFiles& files) { roomLinkFile(s, files, ".txt"); },
+    {2, &UserForm1::Page3, nullptr, false, {".txt"}, {"roomLinks"}, [](Session& s, files::JobFiles& files) { roomLinkFile(s, files, ".txt"); },
      [](Session& s) { decodeRoomLink(s, 2); }, listRoomLinks},
     {3, &UserForm1::Page4, &UserForm1::Page8, true, {files::kReportSuffix, "LnkData.txt", "NetData.txt", "GrpRoom.txt"},
+     {"roomLinks", "stations", "roomCombine"},
      [](Session& s, files::JobFiles& files) {
        roomLinkFile(s, files, "LnkData.txt");
        files.whole("NetData.txt", files::StationTextFormA(s.job.stationLink));
@@ -72,7 +73,7 @@ const std::array<OperatingMode, 5> kModes = {{
        listStations(out, job);
        listRoomCombine(out, job);
      }},
-    {4, &UserForm1::Page5, nullptr, false, {"PreSetData.txt"},
+    {4, &UserForm1::Page5, nullptr, false, {"PreSetData.txt"}, {"presets"},
      [](Session& s, files::JobFiles& files) {
        files.perInput("PreSetData.txt", 0, [&](int k) { return files::PresetInputText(s.job.presetEmulation, k); });
        ui::trap(s.dialogs(), "Error module WritePresetEmulation",
@@ -83,7 +84,7 @@ const std::array<OperatingMode, 5> kModes = {{
        s.presetEmulationPage.listDecoded();
      },
      listPresets},
-    {5, &UserForm1::Page6, nullptr, false, {"LnkData.txt", "NetData.txt"},
+    {5, &UserForm1::Page6, nullptr, false, {"LnkData.txt", "NetData.txt"}, {"roomLinks", "stations", "personalities"},
      [](Session& s, files::JobFiles& files) {
        roomLinkFile(s, files, "LnkData.txt");
        files.whole("NetData.txt", files::StationTextFormB(s.job.stationLink));

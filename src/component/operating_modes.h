@@ -23,6 +23,8 @@ struct OperatingMode {
   bool keepsReport;
   // The suffixes of the text files `save` writes, in its order (the .zpd comes last).
   std::vector<std::string> fileSuffixes;
+  // The tables the mode keeps, by their names in an exported job.
+  std::vector<std::string> tables;
   void (*save)(Session& session, files::JobFiles& files);
   void (*decode)(Session& session);
   void (*list)(std::ostream& out, const job::Job& job);

@@ -43,16 +43,9 @@ Json named(std::string_view name, int value) {
   return {{"value", value}, {"name", name.empty() ? Json(nullptr) : Json(std::string(name))}};
 }
 
-// The tables each operating mode saves, by their names in the document.
 std::vector<std::string> modeTables(int mode) {
-  switch (mode) {
-    case 1: return {"channelEmulation"};
-    case 2: return {"roomLinks"};
-    case 3: return {"roomLinks", "stations", "roomCombine"};
-    case 4: return {"presets"};
-    case 5: return {"roomLinks", "stations", "personalities"};
-    default: return {};
-  }
+  const component::OperatingMode* m = component::operatingMode(mode);
+  return m ? m->tables : std::vector<std::string>{};
 }
 
 Json exportBoard(const job::Job& job) {

@@ -3,6 +3,8 @@
 #include <commdlg.h>
 
 #include "component/job_files.h"
+#include "component/keep_work.h"
+#include "files/save_job.h"
 #include "form/win_metrics.h"
 #include "wide_text.h"
 
@@ -39,19 +41,10 @@ HACCEL jobKeys() {
   return CreateAcceleratorTableW(keys, static_cast<int>(std::size(keys)));
 }
 
-// The folder and name part of a path, and its name without the last extension.
+// The folder part of a path, with its last separator.
 std::string folderOf(const std::string& path) {
   const auto cut = path.find_last_of("\\/");
   return cut == std::string::npos ? std::string() : path.substr(0, cut + 1);
-}
-std::string stemOf(const std::string& path) {
-  std::string name = path.substr(folderOf(path).size());
-  const auto dot = name.find_last_of('.');
-  return dot == std::string::npos ? name : name.substr(0, dot);
-}
-
-bool endsWithTxt(const std::string& path) {
-  return path.size() >= 4 && lstrcmpiW(wide(path.substr(path.size() - 4)).c_str(), L".txt") == 0;
 }
 
 }  // namespace
@@ -68,6 +61,9 @@ MainWindow::MainWindow() : session_(dialogs_, viewer_, clock_), class1_(session_
   };
   form_->onMenu = [this](WORD id) { form_->personAction([&] { menu(id); }); };
   form_->onClose = [this] { form_->personAction([&] { quit(); }); };
+  // The session asks before a job is replaced and saves through the window's own dialog.
+  session_.keeper.askUnsaved = [this] { return askUnsaved(); };
+  session_.keeper.chooseSavePath = [this](const std::string& suggested) { return chooseSavePath(suggested); };
   // The transfer runs on a thread of its own; its outcome comes back through the window's
   // queue, so no handler runs in the middle of another.
   session_.uploadPage.postToFace = [this](std::function<void()> done) { form_->post(std::move(done)); };
@@ -77,13 +73,19 @@ MainWindow::MainWindow() : session_(dialogs_, viewer_, clock_), class1_(session_
 void MainWindow::menu(WORD id) {
   switch (id) {
     case kNew:
-      if (mayDiscard()) newJob();
+      if (component::MayReplaceJob(session_)) newJob();
       break;
     case kOpen:
-      if (mayDiscard()) chooseAndOpen();
+      if (component::MayReplaceJob(session_)) chooseAndOpen();
       break;
-    case kSave: save(); break;
-    case kSaveAs: saveAs(); break;
+    case kSave:
+      component::SaveJob(session_);
+      saved();
+      break;
+    case kSaveAs:
+      component::SaveJobAs(session_);
+      saved();
+      break;
     case kUpload: upload(); break;
     case kQuit: quit(); break;
     default: break;
@@ -125,7 +127,7 @@ void MainWindow::newJob() {
   class1_.New_KX_Job_Display_Board_SetUp();
   class1_.Load_User_Form();
   form_->flush();
-  setJob({});
+  updateTitle();
 }
 
 void MainWindow::openJob(const std::string& zpdPath) {
@@ -135,8 +137,7 @@ void MainWindow::openJob(const std::string& zpdPath) {
   class1_.ReadZPD_ImageFile(path);
   class1_.Load_User_Form();
   form_->flush();
-  // A job is saved under its .txt name; the image beside it takes the same stem.
-  setJob(folderOf(zpdPath) + stemOf(zpdPath) + ".txt");
+  updateTitle();
 }
 
 void MainWindow::chooseAndOpen() {
@@ -145,33 +146,41 @@ void MainWindow::chooseAndOpen() {
   if (!path.empty()) openJob(path);
 }
 
-bool MainWindow::saveTo(const std::string& jobPath) {
-  const std::string written = component::SaveJobSequence(session_, jobPath, "Directory Not Found");
+void MainWindow::saved() {
   form_->flush();
-  if (written.empty()) return false;
-  setJob(jobPath);
-  return true;
+  updateTitle();
 }
 
-bool MainWindow::save() { return jobPath_.empty() ? saveAs() : saveTo(jobPath_); }
-
-bool MainWindow::saveAs() {
+// Jobs are shown by their image, the one file every mode writes; a save asks before it replaces
+// any file itself, so the dialog does not.
+std::string MainWindow::chooseSavePath(const std::string& suggested) {
   std::wstring file(32768, L'\0');
-  const std::wstring start = wide(jobPath_);
+  const std::wstring start = suggested.empty() ? std::wstring() : wide(files::jobPrefix(suggested) + ".zpd");
   std::copy(start.begin(), start.end(), file.begin());
   OPENFILENAMEW dialog{};
   dialog.lStructSize = sizeof dialog;
   dialog.hwndOwner = form_->window();
-  dialog.lpstrFilter = L"Job Files (*.txt)\0*.txt\0";
-  dialog.lpstrDefExt = L"txt";
+  dialog.lpstrFilter = L"Pellam Jobs (*.zpd)\0*.zpd\0";
+  dialog.lpstrDefExt = L"zpd";
   dialog.lpstrFile = file.data();
   dialog.nMaxFile = static_cast<DWORD>(file.size());
-  dialog.Flags = OFN_EXPLORER | OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY | OFN_PATHMUSTEXIST;
+  dialog.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_PATHMUSTEXIST;
   const VisualStyles styles(GetModuleHandleW(nullptr));
-  if (!GetSaveFileNameW(&dialog)) return false;
+  if (!GetSaveFileNameW(&dialog)) return {};
   file.resize(wcslen(file.c_str()));
   const std::string path = utf8(file);
-  return saveTo(endsWithTxt(path) ? path : path + ".txt");
+  // The job is named by its text file, cut where the name's first dot is, as every save cuts it.
+  std::string name = path.substr(folderOf(path).size());
+  return folderOf(path) + name.substr(0, name.find('.')) + ".txt";
+}
+
+component::UnsavedChoice MainWindow::askUnsaved() {
+  const VisualStyles styles(GetModuleHandleW(nullptr));
+  switch (MessageBoxW(form_->window(), L"Save the changes to this job?", L"Pellam Setup", MB_YESNOCANCEL | MB_ICONQUESTION)) {
+    case IDYES: return component::UnsavedChoice::Save;
+    case IDNO: return component::UnsavedChoice::Discard;
+    default: return component::UnsavedChoice::Cancel;
+  }
 }
 
 void MainWindow::upload() {
@@ -181,29 +190,15 @@ void MainWindow::upload() {
   if (HWND target = form_->windowFor("ComboBox50")) SetFocus(target);
 }
 
-bool MainWindow::mayDiscard() {
-  if (!session_.modified()) return true;
-  const VisualStyles styles(GetModuleHandleW(nullptr));
-  switch (MessageBoxW(form_->window(), L"Save the changes to this job?", L"Pellam Setup", MB_YESNOCANCEL | MB_ICONQUESTION)) {
-    case IDYES: return save();
-    case IDNO: return true;
-    default: return false;
-  }
-}
-
 void MainWindow::quit() {
-  if (!mayDiscard()) return;
+  if (!component::MayReplaceJob(session_)) return;
   class1_.Unload_Pellam_Form();
   PostQuitMessage(0);
 }
 
-void MainWindow::setJob(const std::string& jobPath) {
-  jobPath_ = jobPath;
-  updateTitle();
-}
-
 void MainWindow::updateTitle() {
-  const std::string name = jobPath_.empty() ? "New Job" : jobPath_.substr(folderOf(jobPath_).size());
+  const std::string& target = session_.saveTarget;
+  const std::string name = target.empty() ? "New Job" : target.substr(folderOf(target).size());
   form_->setTitle(name + (session_.modified() ? "*" : "") + " - Pellam Setup");
 }
 

@@ -28,14 +28,12 @@ class MainWindow {
   void newJob();
   void openJob(const std::string& zpdPath);
   void chooseAndOpen();
-  bool saveTo(const std::string& jobPath);
-  bool save();
-  bool saveAs();
+  void saved();
+  std::string chooseSavePath(const std::string& suggested);
+  component::UnsavedChoice askUnsaved();
   void upload();
-  bool mayDiscard();
   void quit();
   void initialise();
-  void setJob(const std::string& jobPath);
   void updateTitle();
 
   WinDialogs dialogs_;
@@ -45,7 +43,6 @@ class MainWindow {
   component::Class1 class1_;
   std::unique_ptr<FormWindow> form_;
   HACCEL keys_ = nullptr;
-  std::string jobPath_;  // the .txt a save goes to
   bool fresh_ = false;   // start-up has run and nothing changed since
 };
 

@@ -42,7 +42,7 @@ FormView::FormView(ui::UserForm1& form, QWidget* parent) : QWidget(parent), form
       if (spec.kind == ui::Kind::Page) views_.back()->widget()->installEventFilter(this);
       continue;
     }
-    unbuilt_[pageOf(*control)].push_back(control);
+    unbuilt_[ui::pageOf(form_, *control)].push_back(control);
   }
   // The tabs hold the pages; the window is as large as they are.
   const QSize tabs = multiPage_->widget()->minimumSizeHint();
@@ -54,12 +54,6 @@ FormView::FormView(ui::UserForm1& form, QWidget* parent) : QWidget(parent), form
 }
 
 FormView::~FormView() = default;
-
-const ui::Control* FormView::pageOf(const ui::Control& control) const {
-  const ui::Control* page = &control;
-  while (page->kind() != ui::Kind::Page) page = form_.find(page->spec().parent);
-  return page;
-}
 
 ControlView& FormView::add(ui::Control& control, QWidget* parent) {
   auto view = makeView(control, parent, [this](const std::function<void()>& action) { personAction(action); });
@@ -117,39 +111,27 @@ QWidget* FormView::widgetFor(std::string_view name) {
   const ui::Control* control = form_.find(name);
   if (!control) return nullptr;
   if (!byControl_.contains(control)) {
-    build(pageOf(*control));
+    build(ui::pageOf(form_, *control));
   }
   return byControl_.at(control)->widget();
 }
 
 void FormView::changed(const ui::Control* control) {
-  if (!control) {
-    everything_ = true;
-  } else if (const auto view = byControl_.find(control); view == byControl_.end()) {
-    return;  // drawn whole when its page is built
-  } else if (std::find(dirty_.begin(), dirty_.end(), view->second) == dirty_.end()) {
-    dirty_.push_back(view->second);
-  }
+  const auto view = control ? byControl_.find(control) : byControl_.end();
+  if (control && view == byControl_.end()) return;  // drawn whole when its page is built
   // Changes made while a message box is up are drawn by the box's own event loop.
-  if (!flushQueued_) {
-    flushQueued_ = true;
-    QTimer::singleShot(0, this, [this] { flush(); });
-  }
+  if (redraws_.mark(control ? view->second : nullptr)) QTimer::singleShot(0, this, [this] { flush(); });
 }
 
 void FormView::flush() {
-  flushQueued_ = false;
-  if (everything_) {
-    everything_ = false;
-    dirty_.clear();
+  const auto due = redraws_.take();
+  if (due.everything) {
     redrawAll();
     return;
   }
-  auto dirty = std::move(dirty_);
-  dirty_.clear();
-  for (ControlView* view : dirty) view->redraw();
+  for (ControlView* view : due.views) view->redraw();
   // The shown page follows the pages' visibility, so the tabs come last.
-  if (!dirty.empty()) multiPage_->redraw();
+  if (!due.views.empty()) multiPage_->redraw();
 }
 
 void FormView::redrawAll() {

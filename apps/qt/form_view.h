@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "control_view.h"
+#include "ui/redraw_queue.h"
 #include "ui/user_form.h"
 
 namespace pellam::qt {
@@ -30,7 +31,6 @@ class FormView final : public QWidget {
   void changed(const ui::Control* control);
   void personAction(const std::function<void()>& action);
   bool eventFilter(QObject* watched, QEvent* event) override;
-  const ui::Control* pageOf(const ui::Control& control) const;
   ControlView& add(ui::Control& control, QWidget* parent);
   void build(const ui::Control* page);
   void orderTabs(const ui::Control& page);
@@ -41,10 +41,8 @@ class FormView final : public QWidget {
   std::vector<std::unique_ptr<ControlView>> views_;  // table order
   std::unordered_map<const ui::Control*, ControlView*> byControl_;
   std::unordered_map<const ui::Control*, std::vector<ui::Control*>> unbuilt_;  // by page, table order
-  std::vector<ControlView*> dirty_;
+  ui::RedrawQueue<ControlView> redraws_;
   ControlView* multiPage_ = nullptr;
-  bool flushQueued_ = false;
-  bool everything_ = false;
 };
 
 }  // namespace pellam::qt

@@ -94,7 +94,7 @@ FormWindow::FormWindow(ui::UserForm1& form, HMENU menu) : form_(form) {
     } else if (spec.kind == ui::Kind::Page) {
       pages_.push_back(&add(*control, window_));
     } else {
-      unbuilt_[pageOf(*control)].push_back(control);
+      unbuilt_[ui::pageOf(form_, *control)].push_back(control);
     }
     ++id;
   }
@@ -115,12 +115,6 @@ FormWindow::~FormWindow() {
   SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
   DestroyWindow(window_);
   if (font_) DeleteObject(font_);
-}
-
-const ui::Control* FormWindow::pageOf(const ui::Control& control) const {
-  const ui::Control* page = &control;
-  while (page->kind() != ui::Kind::Page) page = form_.find(page->spec().parent);
-  return page;
 }
 
 ControlView& FormWindow::add(ui::Control& control, HWND parent) {
@@ -155,7 +149,7 @@ void FormWindow::orderTabs(const ui::Control& page) {
   std::map<HWND, std::vector<std::pair<int, HWND>>> byParent;
   for (const auto& [control, view] : byControl_) {
     if (control->kind() == ui::Kind::Page || control->kind() == ui::Kind::MultiPage) continue;
-    if (pageOf(*control) != &page) continue;
+    if (ui::pageOf(form_, *control) != &page) continue;
     const auto place = readingPlace().find(control->name());
     byParent[GetParent(view->window())].emplace_back(place == readingPlace().end() ? 1 << 30 : place->second,
                                                      view->window());
@@ -280,38 +274,26 @@ void FormWindow::scroll(int bar, WORD request) {
 HWND FormWindow::windowFor(std::string_view name) {
   const ui::Control* control = form_.find(name);
   if (!control) return nullptr;
-  if (!byControl_.contains(control)) build(pageOf(*control));
+  if (!byControl_.contains(control)) build(ui::pageOf(form_, *control));
   return byControl_.at(control)->window();
 }
 
 void FormWindow::changed(const ui::Control* control) {
-  if (!control) {
-    everything_ = true;
-  } else if (const auto view = byControl_.find(control); view == byControl_.end()) {
-    return;  // drawn whole when its page is built
-  } else if (std::find(dirty_.begin(), dirty_.end(), view->second) == dirty_.end()) {
-    dirty_.push_back(view->second);
-  }
+  const auto view = control ? byControl_.find(control) : byControl_.end();
+  if (control && view == byControl_.end()) return;  // drawn whole when its page is built
   // Changes made while a message box is up are drawn by the box's own message loop.
-  if (!flushQueued_) {
-    flushQueued_ = true;
-    PostMessageW(window_, kFlush, 0, 0);
-  }
+  if (redraws_.mark(control ? view->second : nullptr)) PostMessageW(window_, kFlush, 0, 0);
 }
 
 void FormWindow::flush() {
-  flushQueued_ = false;
-  if (everything_) {
-    everything_ = false;
-    dirty_.clear();
+  const auto due = redraws_.take();
+  if (due.everything) {
     redrawAll();
     return;
   }
-  auto dirty = std::move(dirty_);
-  dirty_.clear();
-  for (ControlView* view : dirty) view->redraw();
+  for (ControlView* view : due.views) view->redraw();
   // The shown page follows the pages' visibility, so the tabs come last.
-  if (!dirty.empty()) multiPage_->redraw();
+  if (!due.views.empty()) multiPage_->redraw();
   followForm();
 }
 
@@ -410,7 +392,7 @@ LRESULT FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE));
     case WM_GETFONT: return reinterpret_cast<LRESULT>(font_);
     case kFlush:
-      if (flushQueued_) flush();
+      if (redraws_.queued()) flush();
       return 0;
     case kPosted: {
       const std::unique_ptr<std::function<void()>> action(reinterpret_cast<std::function<void()>*>(lParam));

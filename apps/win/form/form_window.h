@@ -10,6 +10,7 @@
 #include <windows.h>
 
 #include "control_view.h"
+#include "ui/redraw_queue.h"
 #include "ui/user_form.h"
 
 namespace pellam::win {
@@ -57,7 +58,6 @@ class FormWindow {
  private:
   LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
   void changed(const ui::Control* control);
-  const ui::Control* pageOf(const ui::Control& control) const;
   ControlView& add(ui::Control& control, HWND parent);
   void build(const ui::Control* page);
   void orderTabs(const ui::Control& page);
@@ -79,12 +79,10 @@ class FormWindow {
   std::vector<std::unique_ptr<ControlView>> views_;  // table order
   std::unordered_map<const ui::Control*, ControlView*> byControl_;
   std::unordered_map<const ui::Control*, std::vector<ui::Control*>> unbuilt_;  // by page, table order
-  std::vector<ControlView*> dirty_;
+  ui::RedrawQueue<ControlView> redraws_;
   ControlView* multiPage_ = nullptr;
   std::vector<ControlView*> pages_;  // by page index
   HWND lastFocus_ = nullptr;
-  bool flushQueued_ = false;
-  bool everything_ = false;
   ui::UserForm1::Subscription subscription_;
 };
 

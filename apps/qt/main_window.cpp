@@ -107,12 +107,18 @@ MainWindow::~MainWindow() {
 }
 
 void MainWindow::buildActions() {
-  QStyle* look = style();
+  // Finding the theme's icons takes longer than drawing the whole form, so they come just
+  // after the first paint; a blank icon keeps their room meanwhile.
+  QPixmap blank(16, 16);
+  blank.fill(Qt::transparent);
   QMenu* job = menuBar()->addMenu(tr("&Job"));
   const auto add = [&](QStyle::StandardPixmap icon, const QString& text, const QKeySequence& keys,
                        std::function<void()> action) {
     QAction* made = job->addAction(text, keys, this, guarded(session_.form, std::move(action)));
-    if (icon != QStyle::SP_CustomBase) made->setIcon(look->standardIcon(icon));
+    if (icon != QStyle::SP_CustomBase) {
+      made->setIcon(QIcon(blank));
+      themedIcons_.emplace_back(made, icon);
+    }
     return made;
   };
   QAction* newAction = add(QStyle::SP_FileIcon, tr("&New"), QKeySequence::New, [this] {
@@ -147,6 +153,7 @@ void MainWindow::buildActions() {
   tools->layout()->setContentsMargins(0, 0, 0, 0);
   tools->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   tools->addActions({newAction, openAction, saveAction, uploadAction});
+  tools->installEventFilter(this);
   tools->setMinimumWidth(tools->sizeHint().width());
   status_ = new QStatusBar;
   status_->setSizeGripEnabled(false);
@@ -195,6 +202,17 @@ void MainWindow::keepWork() {
     const QFileInfo chosen(dialog.selectedFiles().front());
     return QDir(chosen.absolutePath()).filePath(chosen.baseName() + ".txt").toStdString();
   };
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Paint && !themedIcons_.empty()) {
+    watched->removeEventFilter(this);
+    QTimer::singleShot(0, this, [this] {
+      for (const auto& [action, icon] : themedIcons_) action->setIcon(style()->standardIcon(icon));
+      themedIcons_.clear();
+    });
+  }
+  return QMainWindow::eventFilter(watched, event);
 }
 
 void MainWindow::start(const QString& path) {

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QStyle>
 #include <QString>
 #include <QTimer>
+#include <utility>
+#include <vector>
 
 #include "component/class1.h"
 #include "component/platform.h"
@@ -47,6 +50,7 @@ class MainWindow final : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void buildActions();
@@ -70,6 +74,8 @@ class MainWindow final : public QMainWindow {
   FormView* view_;
   Recovery recovery_;
   QTimer recoveryTimer_;
+  // Looked up in the desktop's icon theme once the window has been drawn.
+  std::vector<std::pair<QAction*, QStyle::StandardPixmap>> themedIcons_;
   QMenu* recentMenu_ = nullptr;
   QStatusBar* status_ = nullptr;
   QLabel* jobLabel_ = nullptr;

@@ -49,11 +49,6 @@ class FormDriver {
   // empty); `atStart` answers a question the start asks.
   explicit FormDriver(std::filesystem::path data = {}, QMessageBox::StandardButton atStart = QMessageBox::NoButton);
   ~FormDriver();
-  // Ends the window as a crash would: no close, no question.
-  void crash() {
-    window_.reset();
-    boxes.stop();
-  }
 
   MainWindow& window() { return *window_; }
   ui::UserForm1& form() { return window_->session().form; }

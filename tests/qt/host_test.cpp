@@ -3,10 +3,12 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
+#include <csignal>
 #include <fstream>
 #include <functional>
 #include <iterator>
 #include <stdexcept>
+#include <unistd.h>
 #include <gmock/gmock.h>
 
 #include "form_driver.h"
@@ -283,16 +285,35 @@ TEST_F(KeepingWork, AJobNotOfOurSavingIsSavedAs) {
 
 // A window that ends without closing leaves a copy of its unsaved job, offered at the next
 // start; a window closed normally leaves nothing to offer.
-TEST_F(KeepingWork, ACrashLeavesACopyOfferedAtTheNextStart) {
-  app.confirmBoard(3);
-  app.showPage("Page8");
-  app.type("TextBox103", "Lobby");
-  app.choose("ComboBox101", 4);
-  app.click("CommandButton33");
-  app.window().recovery().keep();
-  app.crash();
+// A real kill, in a process of its own: nothing of the window runs at its end, its lock is left
+// behind, and the copy is the one the window's own timer wrote.
+TEST(Recovery, AKilledProgramLeavesACopyOfferedAtTheNextStart) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  const auto dataOf = [](pid_t parent) {
+    return std::filesystem::temp_directory_path() / ("pellam-qt-killed-" + std::to_string(parent));
+  };
+  EXPECT_EXIT(
+      {
+        FormDriver app(dataOf(getppid()));
+        app.confirmBoard(3);
+        app.showPage("Page8");
+        app.type("TextBox103", "Lobby");
+        app.choose("ComboBox101", 4);
+        app.click("CommandButton33");
+        const std::filesystem::path copies = app.data / "recovery";
+        const bool copied = QTest::qWaitFor([&] {
+          std::error_code ec;
+          for (const auto& folder : std::filesystem::directory_iterator(copies, ec))
+            if (std::filesystem::exists(folder.path() / "job.zpd")) return true;
+          return false;
+        }, 10000);
+        if (!copied) std::_Exit(1);
+        std::raise(SIGKILL);
+      },
+      ::testing::KilledBySignal(SIGKILL), "");
 
-  FormDriver next(app.data, QMessageBox::Yes);
+  const std::filesystem::path data = dataOf(getpid());
+  FormDriver next(data, QMessageBox::Yes);
   ASSERT_EQ(next.boxes.seen.size(), 1u);
   EXPECT_THAT(next.boxes.seen[0], ::testing::StartsWith("msgbox \"Pellam Setup did not close normally. Recover the "
                                                         "unsaved changes to a new job ("));
@@ -302,8 +323,11 @@ TEST_F(KeepingWork, ACrashLeavesACopyOfferedAtTheNextStart) {
 
   next.boxes.queue(QMessageBox::Discard);
   EXPECT_TRUE(next.window().close());
-  FormDriver after(app.data);
-  EXPECT_THAT(after.boxes.seen, IsEmpty()) << "a normal close leaves no copy";
+  {
+    FormDriver after(data);
+    EXPECT_THAT(after.boxes.seen, IsEmpty()) << "a normal close leaves no copy";
+  }
+  std::filesystem::remove_all(data);
 }
 
 }  // namespace

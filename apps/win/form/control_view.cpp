@@ -61,16 +61,25 @@ ControlView::~ControlView() {
   }
 }
 
+// Made where they belong: under Wine moving a combo box costs as much as making one.
 void ControlView::create(const wchar_t* windowClass, DWORD style, DWORD exStyle, HWND parent, int id) {
-  window_ = CreateWindowExW(exStyle, windowClass, L"", style | WS_CHILD, 0, 0, 0, 0, parent,
+  const RECT at = placeAt(Scale{dpiOf(parent)});
+  window_ = CreateWindowExW(exStyle, windowClass, L"", style | WS_CHILD, at.left, at.top, at.right - at.left,
+                            at.bottom - at.top, parent,
                             reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), moduleInstance(), nullptr);
   if (!window_) throw std::runtime_error("Cannot make a window");
   SetPropW(window_, L"PellamView", this);
   SendMessageW(window_, WM_SETFONT, SendMessageW(parent, WM_GETFONT, 0, 0), FALSE);
 }
 
+RECT ControlView::placeAt(const Scale& scale) const {
+  const int left = scale(spec_->left), top = scale(spec_->top);
+  return {left, top, left + scale(spec_->width), top + scale(spec_->height)};
+}
+
 void ControlView::place(const Scale& scale) {
-  MoveWindow(window_, scale(spec_->left), scale(spec_->top), scale(spec_->width), scale(spec_->height), FALSE);
+  const RECT at = placeAt(scale);
+  MoveWindow(window_, at.left, at.top, at.right - at.left, at.bottom - at.top, FALSE);
 }
 
 void ControlView::showState(const ui::Control& control) {

@@ -32,12 +32,15 @@ class ControlView {
   virtual void command(WORD) {}
   // A WM_NOTIFY code from the window.
   virtual void notify(UINT) {}
-  // Places the window at the table's position in its parent, at the parent's scale.
+  // Places the window at the table's position in its parent, at the parent's scale: only
+  // when the scale changes, since a window is made in its place.
   virtual void place(const Scale& scale);
 
  protected:
-  // Makes the window and ties it to this view.
+  // Makes the window in its place at the parent's scale and ties it to this view.
   void create(const wchar_t* windowClass, DWORD style, DWORD exStyle, HWND parent, int id);
+  // The window's rectangle in its parent at a scale.
+  virtual RECT placeAt(const Scale& scale) const;
   // The control's Visible and Enabled onto its window: every view's redraw ends with them.
   void showState(const ui::Control& control);
   // Sets the window's text only when it differs, so that nothing flickers or notifies in vain.

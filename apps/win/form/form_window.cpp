@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 #include "module_instance.h"
 #include "ui/reading_order.h"
@@ -83,24 +84,20 @@ FormWindow::FormWindow(ui::UserForm1& form, HMENU menu) : form_(form) {
   font_ = messageFont(scale_.dpi);
   const PersonAction act = [this](const std::function<void()>& action) { personAction(action); };
   int id = kFirstId;
-  // The tabs and pages now; a page's controls when the page is first shown, since most jobs
-  // never open most pages.
+  // The tabs now; a page and its controls when the page is first shown, since most jobs never
+  // open most pages.
   for (ui::Control* control : form_.controls()) {
     const ui::ControlSpec& spec = control->spec();
     if (spec.kind == ui::Kind::MultiPage) {
       views_.push_back(makeMultiPageView(form_.MultiPage1, window_, id, act, [this](int page) { showPage(page); }));
       multiPage_ = views_.back().get();
       byControl_[control] = multiPage_;
-    } else if (spec.kind == ui::Kind::Page) {
-      pages_.push_back(&add(*control, window_));
-    } else {
+    } else if (spec.kind != ui::Kind::Page) {
       unbuilt_[ui::pageOf(form_, *control)].push_back(control);
     }
     ++id;
   }
-  // The pages lie over the tabs: the tabs come last in the window's order, so that they are
-  // drawn below the pages and Tab reaches them after the shown page's last control.
-  SetWindowPos(multiPage_->window(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  pages_.resize(form_.MultiPage1.pages().size());
   // The tabs' height, and so where the pages start, is known once they hold their tabs.
   multiPage_->redraw();
   layout();
@@ -121,26 +118,49 @@ ControlView& FormWindow::add(ui::Control& control, HWND parent) {
   const auto row = std::find(form_.controls().begin(), form_.controls().end(), &control) - form_.controls().begin();
   auto view = makeView(control, parent, kFirstId + static_cast<int>(row),
                        [this](const std::function<void()>& action) { personAction(action); });
-  view->place(scale_);
   byControl_[&control] = view.get();
   views_.push_back(std::move(view));
   return *views_.back();
 }
 
-void FormWindow::build(const ui::Control* page) {
+ControlView& FormWindow::pageView(std::size_t index) {
+  if (pages_[index]) return *pages_[index];
+  pages_[index] = &add(*form_.MultiPage1.pages()[index], window_);
+  const RECT& at = pageArea_;
+  MoveWindow(pages_[index]->window(), at.left, at.top, at.right - at.left, at.bottom - at.top, FALSE);
+  // The pages lie over the tabs: the tabs come last in the window's order, so that they are
+  // drawn below the pages and Tab reaches them after the shown page's last control.
+  SetWindowPos(multiPage_->window(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  return *pages_[index];
+}
+
+void FormWindow::build(const ui::Control* page, const std::function<bool(const ui::Control&)>& wanted) {
   const auto found = unbuilt_.find(page);
   if (found == unbuilt_.end()) return;
-  const std::vector<ui::Control*> controls = std::move(found->second);
-  unbuilt_.erase(found);
   // Made later than the window, by a person's click: with the same styles and scaling.
   const PerMonitorAware aware;
   const VisualStyles styles(moduleInstance());
+  const auto& pages = form_.MultiPage1.pages();
+  pageView(static_cast<std::size_t>(std::find(pages.begin(), pages.end(), page) - pages.begin()));
   std::vector<ControlView*> made;
   // The table lists a frame before its controls.
-  for (ui::Control* control : controls)
-    made.push_back(&add(*control, byControl_.at(form_.find(control->spec().parent))->childParent()));
+  std::erase_if(found->second, [&](ui::Control* control) {
+    const auto frame = byControl_.find(form_.find(control->spec().parent));
+    if (frame == byControl_.end() || !wanted(*control)) return false;
+    made.push_back(&add(*control, frame->second->childParent()));
+    return true;
+  });
+  if (found->second.empty()) unbuilt_.erase(found);
+  if (made.empty()) return;
   for (ControlView* view : made) view->redraw();
   orderTabs(*page);
+}
+
+// Under Wine each window costs about a millisecond, and a combo box several: the controls of a
+// hidden frame (the upload's, a slave board's) wait until they show.
+void FormWindow::buildShown(const ui::Control* page) {
+  unbuiltShown_ = false;
+  build(page, [](const ui::Control& control) { return control.visible(); });
 }
 
 void FormWindow::orderTabs(const ui::Control& page) {
@@ -166,10 +186,13 @@ void FormWindow::orderTabs(const ui::Control& page) {
 
 void FormWindow::showPage(int index) {
   if (index < 0 || static_cast<std::size_t>(index) >= pages_.size()) return;
-  build(form_.MultiPage1.pages()[static_cast<std::size_t>(index)]);
+  shownPage_ = form_.MultiPage1.pages()[static_cast<std::size_t>(index)];
+  buildShown(shownPage_);
+  pageView(static_cast<std::size_t>(index));
   for (std::size_t i = 0; i < pages_.size(); ++i) {
     const bool shown = static_cast<int>(i) == index;
-    if ((IsWindowVisible(pages_[i]->window()) != FALSE) != shown) ShowWindow(pages_[i]->window(), shown ? SW_SHOWNA : SW_HIDE);
+    if (pages_[i] && (IsWindowVisible(pages_[i]->window()) != FALSE) != shown)
+      ShowWindow(pages_[i]->window(), shown ? SW_SHOWNA : SW_HIDE);
   }
   // The focus never stays on a control nobody sees.
   HWND focus = GetFocus();
@@ -192,10 +215,11 @@ void FormWindow::layout() {
   SendMessageW(multiPage_->window(), TCM_ADJUSTRECT, TRUE, reinterpret_cast<LPARAM>(&tabs));
   OffsetRect(&tabs, -tabs.left, -tabs.top);
   MoveWindow(multiPage_->window(), 0, 0, tabs.right, tabs.bottom, FALSE);
-  RECT display = tabs;
-  SendMessageW(multiPage_->window(), TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&display));
+  pageArea_ = tabs;
+  SendMessageW(multiPage_->window(), TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&pageArea_));
+  const RECT& at = pageArea_;
   for (ControlView* page : pages_) {
-    MoveWindow(page->window(), display.left, display.top, display.right - display.left, display.bottom - display.top, FALSE);
+    if (page) MoveWindow(page->window(), at.left, at.top, at.right - at.left, at.bottom - at.top, FALSE);
   }
   // As large as the form, but never beyond the screen's work area: the rest scrolls.
   content_ = {tabs.right, tabs.bottom};
@@ -274,18 +298,29 @@ void FormWindow::scroll(int bar, WORD request) {
 HWND FormWindow::windowFor(std::string_view name) {
   const ui::Control* control = form_.find(name);
   if (!control) return nullptr;
-  if (!byControl_.contains(control)) build(ui::pageOf(form_, *control));
+  // A hidden control too, with the frames that hold it.
+  std::vector<const ui::Control*> holders;
+  for (const ui::Control* c = control; c->kind() != ui::Kind::Page; c = form_.find(c->spec().parent)) holders.push_back(c);
+  build(ui::pageOf(form_, *control), [&](const ui::Control& c) {
+    return c.visible() || std::find(holders.begin(), holders.end(), &c) != holders.end();
+  });
   return byControl_.at(control)->window();
 }
 
 void FormWindow::changed(const ui::Control* control) {
   const auto view = control ? byControl_.find(control) : byControl_.end();
-  if (control && view == byControl_.end()) return;  // drawn whole when its page is built
+  if (control && view == byControl_.end()) {
+    // Drawn whole when it is made: now, if it shows on the page in front.
+    if (control->visible() && ui::pageOf(form_, *control) == shownPage_ && !std::exchange(unbuiltShown_, true))
+      PostMessageW(window_, kFlush, 0, 0);
+    return;
+  }
   // Changes made while a message box is up are drawn by the box's own message loop.
   if (redraws_.mark(control ? view->second : nullptr)) PostMessageW(window_, kFlush, 0, 0);
 }
 
 void FormWindow::flush() {
+  if (unbuiltShown_) buildShown(shownPage_);
   const auto due = redraws_.take();
   if (due.everything) {
     redrawAll();
@@ -392,7 +427,7 @@ LRESULT FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE));
     case WM_GETFONT: return reinterpret_cast<LRESULT>(font_);
     case kFlush:
-      if (redraws_.queued()) flush();
+      if (redraws_.queued() || unbuiltShown_) flush();
       return 0;
     case kPosted: {
       const std::unique_ptr<std::function<void()>> action(reinterpret_cast<std::function<void()>*>(lParam));

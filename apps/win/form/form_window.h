@@ -16,7 +16,7 @@
 namespace pellam::win {
 
 // UserForm1 drawn with Windows' own controls: one window per row of the control table, placed
-// where the table says at the monitor's scale, made when its page is first shown. The form's
+// where the table says at the monitor's scale, made when it first shows. The form's
 // change notification marks controls; they are redrawn once the handler that changed them has
 // finished, or when the window's queue next runs. The window shows while the form is loaded
 // and visible.
@@ -59,7 +59,11 @@ class FormWindow {
   LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
   void changed(const ui::Control* control);
   ControlView& add(ui::Control& control, HWND parent);
-  void build(const ui::Control* page);
+  // Makes the page's controls that `wanted` picks and whose frame is made.
+  void build(const ui::Control* page, const std::function<bool(const ui::Control&)>& wanted);
+  void buildShown(const ui::Control* page);
+  // The page's panel, made when first needed.
+  ControlView& pageView(std::size_t index);
   void orderTabs(const ui::Control& page);
   void showPage(int index);
   void layout();
@@ -79,9 +83,12 @@ class FormWindow {
   std::vector<std::unique_ptr<ControlView>> views_;  // table order
   std::unordered_map<const ui::Control*, ControlView*> byControl_;
   std::unordered_map<const ui::Control*, std::vector<ui::Control*>> unbuilt_;  // by page, table order
+  const ui::Control* shownPage_ = nullptr;
+  bool unbuiltShown_ = false;  // a control not yet made was shown
   ui::RedrawQueue<ControlView> redraws_;
   ControlView* multiPage_ = nullptr;
-  std::vector<ControlView*> pages_;  // by page index
+  std::vector<ControlView*> pages_;  // by page index; null until made
+  RECT pageArea_{};                  // the tabs' display area, where every page lies
   HWND lastFocus_ = nullptr;
   ui::UserForm1::Subscription subscription_;
 };

@@ -42,11 +42,10 @@ class ListView final : public ControlView {
     redrawing_ = false;
   }
   // A dropped combo box lists up to 20 items below its field.
-  void place(const Scale& scale) override {
-    ControlView::place(scale);
-    if (control_.kind() == ui::Kind::ComboBox) {
-      MoveWindow(window_, scale(spec_->left), scale(spec_->top), scale(spec_->width), scale(spec_->height + 20 * 16), FALSE);
-    }
+  RECT placeAt(const Scale& scale) const override {
+    RECT at = ControlView::placeAt(scale);
+    if (control_.kind() == ui::Kind::ComboBox) at.bottom += scale(20 * 16);
+    return at;
   }
 
  private:

@@ -66,13 +66,14 @@ class MultiPageView final : public ControlView {
 };
 
 // A page is a panel over the tabs' display area; the form window places it and shows the
-// chosen one.
+// chosen one. It leaves its controls' places undrawn: they draw them whole.
 class PageView final : public ControlView {
  public:
   PageView(ui::Page& control, HWND parent, int id) {
     spec_ = &control.spec();
-    create(panelClass(), WS_CLIPSIBLINGS, WS_EX_CONTROLPARENT, parent, id);
+    create(panelClass(), WS_CLIPSIBLINGS | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT, parent, id);
   }
+  RECT placeAt(const Scale&) const override { return {}; }
   void place(const Scale&) override {}
   void redraw() override {}
 };

@@ -57,8 +57,9 @@ class FrameView final : public ControlView {
   FrameView(ui::CaptionedControl& control, HWND parent, int id) : control_(control) {
     spec_ = &control.spec();
     create(panelClass(), WS_CLIPSIBLINGS, WS_EX_CONTROLPARENT, parent, id);
-    box_ = CreateWindowExW(0, L"BUTTON", L"", WS_CHILD | WS_VISIBLE | BS_GROUPBOX, 0, 0, 0, 0, window_, nullptr,
-                           moduleInstance(), nullptr);
+    const RECT at = placeAt(Scale{dpiOf(parent)});
+    box_ = CreateWindowExW(0, L"BUTTON", L"", WS_CHILD | WS_VISIBLE | BS_GROUPBOX, 0, 0, at.right - at.left,
+                           at.bottom - at.top, window_, nullptr, moduleInstance(), nullptr);
     SendMessageW(box_, WM_SETFONT, SendMessageW(parent, WM_GETFONT, 0, 0), FALSE);
     SendMessageW(window_, WM_SETFONT, SendMessageW(parent, WM_GETFONT, 0, 0), FALSE);
   }

@@ -131,49 +131,69 @@ bash tests/com/leg.sh 64 "$work/w64"
 judge 64 "$work/w64/results"
 echo "== COM 64-bit minutes: $(( ($(date +%s) - t1 + 59) / 60 ))"
 
-# The form's window, 64-bit on the host: its pictures land in build/mingw/screenshots.
-t3=$(date +%s)
-form=$work/form
-mkdir -p "$form"
-cp build/mingw/apps/win/{Pellam.dll,pellam-setup.exe,pellam_form_driver.exe,pellam_form_layout.exe} "$form/"
-# The room-combine example at a fixed time, since its report carries the time of the save.
-{ echo 'clock "2026-11-23 12:00:00"'; cat examples/room-combine.pellam; } >"$form/room-combine.pellam"
-mkdir -p "$linux/drive" && (cd "$linux/drive" && "$pellam" run "$form/room-combine.pellam" >../drive.out)
-cp -r "$linux/samples" "$form/"
-echo "== COM form: 64-bit, host Wine on Xvfb"
-bash tests/com/form_leg.sh "$form"
-r=$form/results/form
-shots=build/mingw/screenshots
-rm -rf "$shots" && mkdir -p "$shots"
-python3 tests/com/bmp_to_png.py "$shots" "$r"/shots/*.bmp
-echo "== COM form: $(cat "$r/times.txt"), pictures in $shots"
-check "form driven by its controls: the messages" <(grep '^msgbox' "$linux/drive.out"; echo DONE) "$r/drive.txt"
-for f in "$linux"/drive/samples/*; do
-  check "form driven by its controls: $(basename "$f") as on Linux" <(od -An -tx1 "$f") <(od -An -tx1 "$r/drive/samples/$(basename "$f")")
-done
+# The form's window, both widths: the room-combine example at a fixed time, since its report
+# carries the time of the save.
+{ echo 'clock "2026-11-23 12:00:00"'; cat examples/room-combine.pellam; } >"$work/room-combine.pellam"
+mkdir -p "$linux/drive" && (cd "$linux/drive" && "$pellam" run "$work/room-combine.pellam" >../drive.out)
+stage_form() {  # stage_form WIDTH FOLDER
+  local build=build/mingw
+  [ "$1" = 32 ] && build=build/mingw-i686
+  mkdir -p "$2"
+  cp "$build"/apps/win/{Pellam.dll,pellam-setup.exe,pellam_form_driver.exe,pellam_form_layout.exe} \
+    tests/com/form_leg.sh tests/com/wine_desktop.sh "$work/room-combine.pellam" "$2/"
+  cp -r "$linux/samples" "$2/"
+}
 pictures() { grep '^picture' "$1" | sed 's/.*\\[a-z]*-//; s/\.bmp / /' | cut -d' ' -f1; }
-check "form pages from Pellam.dll" tests/com/expected/form_pages.out <(pictures "$r/pages.txt"; tail -1 "$r/pages.txt")
-check "form pages from pellam-setup.exe" tests/com/expected/form_pages.out <(pictures "$r/setup_pages.txt"; grep -c DONE "$r/setup_pages.txt" | sed 's/^5$/DONE/')
-check "form fits 1024x768" /dev/null <(grep '^picture' "$r/pages.txt" "$r/setup_pages.txt" | awk '{split($NF, s, "x"); if (s[1] > 1024 || s[2] > 768) print}')
-check "form texts fit at 96 and 144 dpi" <(echo "0 cut off") <(tail -1 "$r/layout.txt" | grep -o '[0-9]* cut off')
+judge_form() {  # judge_form WIDTH RESULTS: the pictures land in the width's build folder
+  local width=$1 r=$2 shots=build/mingw/screenshots f
+  [ "$width" = 32 ] && shots=build/mingw-i686/screenshots
+  rm -rf "$shots" && mkdir -p "$shots"
+  python3 tests/com/bmp_to_png.py "$shots" "$r"/shots/*.bmp
+  echo "== COM form $width-bit: $(cat "$r/times.txt"), pictures in $shots"
+  check "$width-bit form driven by its controls: the messages" <(grep '^msgbox' "$linux/drive.out"; echo DONE) "$r/drive.txt"
+  for f in "$linux"/drive/samples/*; do
+    check "$width-bit form driven by its controls: $(basename "$f") as on Linux" <(od -An -tx1 "$f") \
+      <(od -An -tx1 "$r/drive/samples/$(basename "$f")")
+  done
+  check "$width-bit form pages from Pellam.dll" tests/com/expected/form_pages.out <(pictures "$r/pages.txt"; tail -1 "$r/pages.txt")
+  check "$width-bit form pages from pellam-setup.exe" tests/com/expected/form_pages.out \
+    <(pictures "$r/setup_pages.txt"; grep -c DONE "$r/setup_pages.txt" | sed 's/^5$/DONE/')
+  check "$width-bit form fits 1024x768" /dev/null <(grep '^picture' "$r/pages.txt" "$r/setup_pages.txt" |
+    awk '{split($NF, s, "x"); if (s[1] > 1024 || s[2] > 768) print}')
+  check "$width-bit form texts fit at 96 and 144 dpi" <(echo "0 cut off") <(tail -1 "$r/layout.txt" | grep -o '[0-9]* cut off')
+}
+
+t3=$(date +%s)
+stage_form 64 "$work/form"
+echo "== COM form: 64-bit, host Wine on Xvfb"
+bash "$work/form/form_leg.sh" 64 "$work/form"
+judge_form 64 "$work/form/results/form"
 echo "== COM form minutes: $(( ($(date +%s) - t3 + 59) / 60 ))"
 
 t2=$(date +%s)
+# 32-bit Wine on the host, else in the chroot, where `run32` runs a command and `in32` names a
+# path as it is seen from there.
+top=
 if host_wine32; then
   echo "== COM 32-bit leg: host Wine (wine32:i386)"
-  stage 32 "$work/w32"
-  bash tests/com/leg.sh 32 "$work/w32"
-  judge 32 "$work/w32/results"
+  root= top=$work/w32
 elif root=$(bash tools/wine-chroot.sh ensure); then
   echo "== COM 32-bit leg: Debian chroot $root (wine32:i386 would not install on the host)"
-  inside=$(mktemp -d "$root/tmp/pellam-com-XXXXXX")
-  stage 32 "$inside"
-  bash tools/wine-chroot.sh enter bash "/tmp/$(basename "$inside")/leg.sh" 32 "/tmp/$(basename "$inside")"
-  judge 32 "$inside/results"
-  rm -rf "$inside"
+  top=$(mktemp -d "$root/tmp/pellam-com-XXXXXX")
 else
   echo "FAILED: no 32-bit Wine, neither on the host nor in a chroot"
   failed=$((failed + 1))
+fi
+if [ -n "$top" ]; then
+  run32() { if [ -n "$root" ]; then bash tools/wine-chroot.sh enter "$@"; else "$@"; fi; }
+  in32() { echo "${1#"$root"}"; }
+  stage 32 "$top/com"
+  run32 bash "$(in32 "$top/com")/leg.sh" 32 "$(in32 "$top/com")"
+  judge 32 "$top/com/results"
+  stage_form 32 "$top/form"
+  run32 bash "$(in32 "$top/form")/form_leg.sh" 32 "$(in32 "$top/form")"
+  judge_form 32 "$top/form/results/form"
+  [ -z "$root" ] || rm -rf "$top"
 fi
 echo "== COM 32-bit minutes: $(( ($(date +%s) - t2 + 59) / 60 )), all: $(( ($(date +%s) - t0 + 59) / 60 ))"
 echo "$passed passed, $failed failed"

@@ -6,13 +6,27 @@
 #   tools/wine-chroot.sh enter CMD runs CMD inside it with /proc and /dev mounted
 set -euo pipefail
 ROOT=${PELLAM_CHROOT:-/var/cache/pellam-chroot}
+# Xvfb for the form's window in 32 bits.
+PACKAGES=(wine wine64 wine32:i386 fonts-wine xvfb)
 
 mirror() {
   apt-get indextargets --format '$(REPO_URI)' | grep -v -- '-security' | sort -u | head -1
 }
 
 ensure() {
-  if [ -f "$ROOT/.pellam-ready" ]; then echo "$ROOT"; return 0; fi
+  if [ -f "$ROOT/.pellam-ready" ]; then
+    # A chroot kept from before a package joined the list gets it now.
+    local p missing=()
+    for p in "${PACKAGES[@]}"; do
+      chroot "$ROOT" dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
+    done
+    if [ ${#missing[@]} -gt 0 ]; then
+      chroot "$ROOT" apt-get update -qq >&2
+      DEBIAN_FRONTEND=noninteractive chroot "$ROOT" apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
+    fi
+    echo "$ROOT"
+    return 0
+  fi
   rm -rf "$ROOT.partial"
   local url
   url=$(mirror)
@@ -20,8 +34,7 @@ ensure() {
   debootstrap --variant=minbase bookworm "$ROOT.partial" "$url" >&2
   chroot "$ROOT.partial" dpkg --add-architecture i386
   chroot "$ROOT.partial" apt-get update -qq >&2
-  DEBIAN_FRONTEND=noninteractive chroot "$ROOT.partial" apt-get install -y -qq --no-install-recommends \
-    wine wine64 wine32:i386 fonts-wine >&2
+  DEBIAN_FRONTEND=noninteractive chroot "$ROOT.partial" apt-get install -y -qq --no-install-recommends "${PACKAGES[@]}" >&2
   touch "$ROOT.partial/.pellam-ready"
   rm -rf "$ROOT"
   mv "$ROOT.partial" "$ROOT"

@@ -70,26 +70,33 @@ HWND controlWindow(HWND form, std::string_view name) {
   return s.found;
 }
 
-// Lets the form's window handle what it was sent and draw it.
+void pump() {
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+}
+
+// Lets the form's window handle what it was sent and draw it, in front. An in-process form is
+// drawn, then its queue runs again: Wine puts what a window drew on the screen from there.
 void settle(HWND form, bool inProcess) {
+  SetForegroundWindow(form);
   if (inProcess) {
-    MSG message;
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-      TranslateMessage(&message);
-      DispatchMessageW(&message);
-    }
+    pump();
     RedrawWindow(form, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    GdiFlush();
+    Sleep(100);
+    pump();
   } else {
     DWORD_PTR ignored = 0;
     SendMessageTimeoutW(form, WM_NULL, 0, 0, SMTO_BLOCK, 5000, &ignored);
+    Sleep(400);
   }
-  GdiFlush();
-  Sleep(inProcess ? 100 : 400);
 }
 
 // The window as the screen shows it, as a 24-bit BMP.
 void capture(HWND form, const std::wstring& path) {
-  SetForegroundWindow(form);
   RECT r;
   GetWindowRect(form, &r);
   const int w = r.right - r.left, h = r.bottom - r.top;

@@ -1,12 +1,14 @@
 #!/usr/bin/env bash
-# The form's window under Wine and Xvfb, 64-bit: pictures of every page of every sample job
-# from Pellam.dll in a host and from pellam-setup.exe, the room-combine example driven through
-# the real controls, the layout measured at 96 and 144 DPI.
-#   form_leg.sh STAGE      STAGE holds the programs, samples/ and room-combine.pellam; what
-#                          they print, save and picture lands in STAGE/results/form. Nothing
-#                          here judges: the caller compares.
+# The form's window under Wine and Xvfb, in one width: pictures of every page of every sample
+# job from Pellam.dll in a host and from pellam-setup.exe, the room-combine example driven
+# through the real controls, the layout measured at 96 and 144 DPI.
+#   form_leg.sh 32|64 STAGE   STAGE holds the programs, samples/ and room-combine.pellam; what
+#                             they print, save and picture lands in STAGE/results/form.
+#                             Nothing here judges: the caller compares.
 set -uo pipefail
-stage=$1
+width=$1 stage=$2
+regsvr32=regsvr32
+[ "$width" = 32 ] && regsvr32='C:\windows\syswow64\regsvr32.exe'
 source "$(dirname "$0")/wine_desktop.sh"
 results=$stage/results/form
 mkdir -p "$results/shots"
@@ -17,7 +19,7 @@ mkdir -p "$c/shots"
 cp "$stage"/Pellam.dll "$stage"/pellam-setup.exe "$stage"/pellam_form_driver.exe "$stage"/pellam_form_layout.exe \
    "$stage"/room-combine.pellam "$c/"
 cp -r "$stage/samples" "$c/"
-w regsvr32 /s 'C:\pellam\Pellam.dll' >/dev/null
+w "$regsvr32" /s 'C:\pellam\Pellam.dll' >/dev/null
 
 # The questions of the script are answered from its own answer lines.
 grep -E '^(answer|choose|clock) ' "$stage/room-combine.pellam" >"$c/drive.answers"

@@ -1,6 +1,8 @@
 #include "form_window.h"
 
 #include <commctrl.h>
+#include <uxtheme.h>
+#include <vssym32.h>
 
 #include <algorithm>
 #include <map>
@@ -214,9 +216,15 @@ void FormWindow::layout() {
   RECT tabs{0, 0, scale_(spec.width), scale_(spec.height)};
   SendMessageW(multiPage_->window(), TCM_ADJUSTRECT, TRUE, reinterpret_cast<LPARAM>(&tabs));
   OffsetRect(&tabs, -tabs.left, -tabs.top);
-  MoveWindow(multiPage_->window(), 0, 0, tabs.right, tabs.bottom, FALSE);
   pageArea_ = tabs;
   SendMessageW(multiPage_->window(), TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&pageArea_));
+  // The tab control draws its tabs and the top of its pane only, and the form the rest of the
+  // pane's edge: a themed pane the size of the form takes Wine longer to draw than all the
+  // controls of a page, and the pages cover nearly all of it. Its pane is as deep as its margin
+  // below the pages; the pane's lower edge that this draws is cut off.
+  const LONG margin = tabs.bottom - pageArea_.bottom;
+  MoveWindow(multiPage_->window(), 0, 0, tabs.right, pageArea_.top + margin, FALSE);
+  SetWindowRgn(multiPage_->window(), CreateRectRgn(0, 0, tabs.right, pageArea_.top), FALSE);
   const RECT& at = pageArea_;
   for (ControlView* page : pages_) {
     if (page) MoveWindow(page->window(), at.left, at.top, at.right - at.left, at.bottom - at.top, FALSE);
@@ -243,6 +251,36 @@ void FormWindow::layout() {
   updateScrollBars();
   InvalidateRect(window_, nullptr, TRUE);
   if (old) DeleteObject(old);
+}
+
+void FormWindow::paintPaneEdge(HDC dc) const {
+  // Each edge is the edge of a pane twice as deep as its margin, cut to the margin: a thin strip
+  // to draw, in the theme's look or the classic one.
+  const RECT& page = pageArea_;
+  const LONG width = content_.x, height = content_.y, left = page.left, right = width - page.right,
+             below = height - page.bottom;
+  struct Strip {
+    RECT pane, cut;
+  };
+  Strip strips[] = {
+      {{0, page.top - 2 * below, 2 * left, height}, {0, page.top, left, height}},
+      {{width - 2 * right, page.top - 2 * below, width, height}, {width - right, page.top, width, height}},
+      {{0, page.bottom - below, width, height}, {0, page.bottom, width, height}},
+  };
+  HTHEME theme = OpenThemeData(multiPage_->window(), L"TAB");
+  for (Strip& strip : strips) {
+    OffsetRect(&strip.pane, -scrolled_.x, -scrolled_.y);
+    OffsetRect(&strip.cut, -scrolled_.x, -scrolled_.y);
+    if (theme) {
+      DrawThemeBackground(theme, dc, TABP_PANE, 0, &strip.pane, &strip.cut);
+    } else {
+      const int saved = SaveDC(dc);
+      IntersectClipRect(dc, strip.cut.left, strip.cut.top, strip.cut.right, strip.cut.bottom);
+      DrawEdge(dc, &strip.pane, EDGE_RAISED, BF_SOFT | BF_RECT);
+      RestoreDC(dc, saved);
+    }
+  }
+  if (theme) CloseThemeData(theme);
 }
 
 void FormWindow::updateScrollBars() {
@@ -426,6 +464,13 @@ LRESULT FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
       SetBkColor(reinterpret_cast<HDC>(wParam), GetSysColor(COLOR_BTNFACE));
       return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE));
     case WM_GETFONT: return reinterpret_cast<LRESULT>(font_);
+    case WM_PAINT: {
+      PAINTSTRUCT paint;
+      HDC dc = BeginPaint(window_, &paint);
+      paintPaneEdge(dc);
+      EndPaint(window_, &paint);
+      return 0;
+    }
     case kFlush:
       if (redraws_.queued() || unbuiltShown_) flush();
       return 0;

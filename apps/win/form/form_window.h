@@ -67,6 +67,8 @@ class FormWindow {
   void orderTabs(const ui::Control& page);
   void showPage(int index);
   void layout();
+  // The tabs' pane beside and below the pages.
+  void paintPaneEdge(HDC dc) const;
   // Small screens scroll rather than cut a control off.
   void updateScrollBars();
   void scrollTo(int bar, int position);

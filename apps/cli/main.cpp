@@ -65,9 +65,12 @@ std::optional<std::vector<std::uint8_t>> readJob(const std::string& path) {
 
 int showJob(const std::string& path) {
   namespace component = pellam::component;
-  if (!readJob(path)) return kRefused;
-  component::UnattendedSession session(std::cerr);
-  if (!component::OpenJobSequence(*session, path)) return kRefused;
+  const auto bytes = readJob(path);
+  if (!bytes) return kRefused;
+  // Never freed: the process ends here, and the form's thousands of list items would only be
+  // handed back one by one.
+  static auto& session = *new component::UnattendedSession(std::cerr);
+  component::OpenImageBytes(*session, *bytes);
   std::cout << "Job: " << path << "\n" << component::listJob(*session);
   return 0;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <ostream>
 #include <string>
 
 #include "component/session.h"
@@ -11,12 +10,13 @@ namespace pellam::component {
 // operating mode as its editor lists it, and the settings every mode carries.
 std::string listJob(Session& session);
 
-// Each table as its editor lists it, under a heading; the operating modes name which they show.
-void listRoomLinks(std::ostream& out, const job::Job& job);
-void listStations(std::ostream& out, const job::Job& job);
-void listChannelEmulation(std::ostream& out, const job::Job& job);
-void listPresets(std::ostream& out, const job::Job& job);
-void listPersonalities(std::ostream& out, const job::Job& job);
-void listRoomCombine(std::ostream& out, const job::Job& job);
+// Each table as its editor lists it, under a heading, added to `out`; the operating modes name
+// which they show.
+void listRoomLinks(std::string& out, const job::Job& job);
+void listStations(std::string& out, const job::Job& job);
+void listChannelEmulation(std::string& out, const job::Job& job);
+void listPresets(std::string& out, const job::Job& job);
+void listPersonalities(std::string& out, const job::Job& job);
+void listRoomCombine(std::string& out, const job::Job& job);
 
 }  // namespace pellam::component

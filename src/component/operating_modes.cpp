@@ -68,7 +68,7 @@ const std::array<OperatingMode, 5> kModes = {{
        image::DecodeStationsFormA(s.image, s.job.stationLink, numbering(s));
        s.stationLinkPage.listDecoded();
      },
-     [](std::ostream& out, const job::Job& job) {
+     [](std::string& out, const job::Job& job) {
        listRoomLinks(out, job);
        listStations(out, job);
        listRoomCombine(out, job);
@@ -97,7 +97,7 @@ const std::array<OperatingMode, 5> kModes = {{
        s.stationLinkPage.listDecoded();
        s.stationPersonalityPage.listDecoded();
      },
-     [](std::ostream& out, const job::Job& job) {
+     [](std::string& out, const job::Job& job) {
        listRoomLinks(out, job);
        listStations(out, job);
        listPersonalities(out, job);

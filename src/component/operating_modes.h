@@ -1,6 +1,5 @@
 #pragma once
 
-#include <ostream>
 #include <string>
 #include <vector>
 
@@ -27,7 +26,7 @@ struct OperatingMode {
   std::vector<std::string> tables;
   void (*save)(Session& session, files::JobFiles& files);
   void (*decode)(Session& session);
-  void (*list)(std::ostream& out, const job::Job& job);
+  void (*list)(std::string& out, const job::Job& job);
 };
 
 // The mode 1..5, or nullptr for any other value (an image may hold anything).

@@ -13,7 +13,7 @@ namespace lists = ui::lists;
 void fillInputAndRoomLists(ui::UserForm1& f) {
   const auto inputs = lists::inputs();
   for (ui::ComboBox* c : {&f.ComboBox26, &f.ComboBox7, &f.ComboBox20, &f.ComboBox30, &f.ComboBox42}) c->setItems(inputs);
-  const auto rooms = lists::rooms();
+  const auto& rooms = lists::rooms();
   for (ui::ComboBox* c : {&f.ComboBox8, &f.ComboBox9, &f.ComboBox22, &f.ComboBox23, &f.ComboBox31, &f.ComboBox32,
                           &f.ComboBox33, &f.ComboBox36, &f.ComboBox43}) {
     c->setItems(rooms);

@@ -69,7 +69,10 @@ class FtpTransport {
   virtual TransferResult run(const TransferJob& job, const TransferTick& tick) = 0;
 };
 
-// libcurl where it is built in; on Windows WinINet's FTP functions.
+// On Windows WinINet's FTP functions; elsewhere libcurl, in the upload program of its own
+// (pellam-ftp-curl), so that nothing else starts with libcurl's libraries.
 std::unique_ptr<FtpTransport> makeSystemFtpTransport();
+// libcurl itself, in the upload program.
+std::unique_ptr<FtpTransport> makeCurlTransport();
 
 }  // namespace pellam::files

@@ -145,7 +145,6 @@ class CurlTransport final : public FtpTransport {
 
 }  // namespace
 
-}  // namespace pellam::files
+std::unique_ptr<FtpTransport> makeCurlTransport() { return std::make_unique<CurlTransport>(); }
 
-// The plugin's one entry point: ftp_transport_plugin.cpp loads this library on the first upload.
-extern "C" pellam::files::FtpTransport* pellam_make_curl_transport() { return new pellam::files::CurlTransport(); }
+}  // namespace pellam::files

@@ -62,11 +62,35 @@ std::vector<std::string> fadeRates() {
 }
 
 std::vector<std::string> levels() { return numbered("", 0, 100, "%"); }
-std::vector<std::string> firstChannels() { return withBlank(numbered("Channel :", 1, job::kLastScannedChannel)); }
 std::vector<std::string> inputs() { return withBlank(numbered("Input ", 1, 16)); }
-std::vector<std::string> rooms() { return withBlank(numbered("Room ", 1, 255)); }
-std::vector<std::string> groups() { return withBlank(numbered("Group ", 1, 255)); }
-std::vector<std::string> channels() { return withBlank(numbered("", 1, job::kLastChannel)); }
+
+// The long lists, each with its count, so that none is made before it is read.
+const FixedList& firstChannels() {
+  static const FixedList list(job::kLastScannedChannel + 1,
+                              [] { return withBlank(numbered("Channel :", 1, job::kLastScannedChannel)); });
+  return list;
+}
+const FixedList& rooms() {
+  static const FixedList list(256, [] { return withBlank(numbered("Room ", 1, 255)); });
+  return list;
+}
+const FixedList& groups() {
+  static const FixedList list(256, [] { return withBlank(numbered("Group ", 1, 255)); });
+  return list;
+}
+const FixedList& channels() {
+  static const FixedList list(job::kLastChannel + 1, [] { return withBlank(numbered("", 1, job::kLastChannel)); });
+  return list;
+}
+const FixedList& personalities() {
+  static const FixedList list(256, [] { return withBlank(numbered("Personality ", 1, 255)); });
+  return list;
+}
+// Net ids above 127 are offered so that the page can refuse them by name.
+const FixedList& remoteNetIds() {
+  static const FixedList list(256, [] { return withBlank(numbered("", 1, 255)); });
+  return list;
+}
 
 std::vector<std::string> presetStationKinds() {
   return {" ", "T3100 LCD", "T3100 Entry", "T6600 LCD", "T6600 Entry", "Contact Closure"};
@@ -77,10 +101,7 @@ std::vector<std::string> linkStationTypes() {
 std::vector<std::string> personalitySeries() { return {"T3100 Series", "T6600 Series"}; }
 std::vector<std::string> netIds() { return withBlank(numbered("", 1, 127)); }
 std::vector<std::string> netIdNames() { return numbered("NetID ", 1, 127); }
-std::vector<std::string> personalities() { return withBlank(numbered("Personality ", 1, 255)); }
 
-// Net ids above 127 are offered so that the page can refuse them by name.
-std::vector<std::string> remoteNetIds() { return withBlank(numbered("", 1, 255)); }
 std::vector<std::string> remotePages() { return withBlank(numbered("", 1, 16)); }
 std::vector<std::string> remoteButtons() { return numbered("", 1, 16); }
 

@@ -4,6 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "ui/controls.h"
+
 // The fixed choice lists of the form. Combo boxes open with a blank item " " at position 0
 // (nothing chosen), so that a choice's list position is the value stored.
 namespace pellam::ui::lists {
@@ -24,20 +26,20 @@ std::vector<std::string> refreshRates();
 
 std::vector<std::string> fadeRates();
 std::vector<std::string> levels();
-std::vector<std::string> firstChannels();
+const FixedList& firstChannels();
 std::vector<std::string> inputs();
-std::vector<std::string> rooms();
-std::vector<std::string> groups();
-std::vector<std::string> channels();
+const FixedList& rooms();
+const FixedList& groups();
+const FixedList& channels();
 
 std::vector<std::string> presetStationKinds();
 std::vector<std::string> linkStationTypes();
 std::vector<std::string> personalitySeries();
 std::vector<std::string> netIds();        // " ", "1" .. "127": list index = net id
 std::vector<std::string> netIdNames();    // "NetID 1" .. "NetID 127": list index + 1 = net id
-std::vector<std::string> personalities();  // " ", "Personality 1" .. "Personality 255"
+const FixedList& personalities();  // " ", "Personality 1" .. "Personality 255"
 
-std::vector<std::string> remoteNetIds();
+const FixedList& remoteNetIds();
 std::vector<std::string> remotePages();
 std::vector<std::string> remoteButtons();
 

@@ -1,5 +1,7 @@
 #include "ui/controls.h"
 
+#include <utility>
+
 #include "job/runtime_error.h"
 
 namespace pellam::ui {
@@ -88,32 +90,48 @@ void TextBox::reset() {
   Control::reset();
 }
 
-const std::string& ListControl::item(int index) const {
-  if (index < 0 || index >= count()) throw job::RuntimeError(kInvalidPropertyValue);
-  return items_[static_cast<std::size_t>(index)];
+const std::vector<std::string>& FixedList::items() const {
+  std::call_once(made_, [this] { items_ = make_(); });
+  return items_;
 }
 
-std::string ListControl::text() const { return listIndex_ >= 0 ? items_[static_cast<std::size_t>(listIndex_)] : ""; }
+const std::string& ListControl::item(int index) const {
+  if (index < 0 || index >= count()) throw job::RuntimeError(kInvalidPropertyValue);
+  return items()[static_cast<std::size_t>(index)];
+}
+
+std::string ListControl::text() const { return listIndex_ >= 0 ? items()[static_cast<std::size_t>(listIndex_)] : ""; }
 
 void ListControl::clear() {
   items_.clear();
+  fixed_ = nullptr;
   listIndex_ = -1;
   notify();
 }
 
 void ListControl::addItem(std::string item) {
+  if (fixed_) items_ = std::exchange(fixed_, nullptr)->items();
   items_.push_back(std::move(item));
   notify();
 }
 
 void ListControl::setItems(std::vector<std::string> items) {
   items_ = std::move(items);
+  fixed_ = nullptr;
+  listIndex_ = -1;
+  notify();
+}
+
+void ListControl::setItems(const FixedList& items) {
+  items_.clear();
+  fixed_ = &items;
   listIndex_ = -1;
   notify();
 }
 
 void ListControl::refill(std::vector<std::string> items) {
   items_ = std::move(items);
+  fixed_ = nullptr;
   if (listIndex_ >= count()) listIndex_ = -1;
   notify();
 }
@@ -141,6 +159,7 @@ void ListControl::select(int index) {
 
 void ListControl::reset() {
   items_.clear();
+  fixed_ = nullptr;
   listIndex_ = -1;
   Control::reset();
 }

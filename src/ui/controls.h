@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <mutex>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -122,13 +123,29 @@ class TextBox : public Control {
 };
 
 // Combo boxes and list boxes: items, a list index (-1 = nothing chosen) and a click handler.
+// A long list of choices that never changes, made once per process when first read and shared
+// by every control that offers it: the form's channels and rooms are thousands of items that a
+// command-line run mostly never reads.
+class FixedList {
+ public:
+  FixedList(int count, std::vector<std::string> (*make)()) : count_(count), make_(make) {}
+  int count() const { return count_; }
+  const std::vector<std::string>& items() const;
+
+ private:
+  int count_;
+  std::vector<std::string> (*make_)();
+  mutable std::once_flag made_;
+  mutable std::vector<std::string> items_;
+};
+
 class ListControl : public Control {
  public:
   using Control::Control;
   Handler onClick;
 
-  const std::vector<std::string>& items() const { return items_; }
-  int count() const { return static_cast<int>(items_.size()); }
+  const std::vector<std::string>& items() const { return fixed_ ? fixed_->items() : items_; }
+  int count() const { return fixed_ ? fixed_->count() : static_cast<int>(items_.size()); }
   const std::string& item(int index) const;
   int listIndex() const { return listIndex_; }
   std::string text() const;
@@ -136,6 +153,7 @@ class ListControl : public Control {
   void clear();
   void addItem(std::string item);
   void setItems(std::vector<std::string> items);
+  void setItems(const FixedList& items);
   // New items with the same choice kept when it is still offered: the person chose nothing,
   // so no handler runs.
   void refill(std::vector<std::string> items);
@@ -150,6 +168,7 @@ class ListControl : public Control {
  private:
   void checkIndex(int index) const;
   std::vector<std::string> items_;
+  const FixedList* fixed_ = nullptr;  // the items, when a fixed list is offered
   int listIndex_ = -1;
 };
 

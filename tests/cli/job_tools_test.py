@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 """The job tools as a person runs them, one command per run:
     job_tools_test.py diff|check|roundtrip PELLAM MAXIMAL_JOB WORK
-diff and check compare whole outputs with tests/cli/expected/; roundtrip exports and imports
+diff and check compare whole outputs with tests/cli/expected/, and check sends a clean job to a
+controller simulator on loopback, as an upload checks it first; roundtrip exports and imports
 every sample job, the maximal jobs and seeded random images. --update rewrites the expected
 outputs (read them before committing)."""
 import json
@@ -11,6 +12,7 @@ import shutil
 import subprocess
 import sys
 import tempfile
+import time
 from pathlib import Path
 
 import jsonschema
@@ -112,6 +114,30 @@ def command_outputs(command, cases, pellam, work, update):
     return ok
 
 
+def uploaded(pellam, job, work):
+    """A clean job goes through the upload program to the controller, whole."""
+    root, port = work / "controller", work / "controller.port"
+    root.mkdir()
+    sim = subprocess.Popen(["/usr/bin/python3", ROOT / "tests" / "support" / "controller_sim.py",
+                            "--port-file", port, "--root", root, "--stations", "5"])
+    try:
+        for _ in range(200):
+            if port.exists():
+                break
+            time.sleep(0.05)
+        env = {**os.environ, "PELLAM_CONTROLLER_SETTINGS": str(work / "none.ini")}
+        sent = subprocess.run([pellam, "upload", job, "--netid", "5", "--to", f"127.0.0.1:{port.read_text()}"],
+                              capture_output=True, text=True, env=env)
+        taken = root / "Q9z5.zpd"
+        if sent.returncode == 0 and taken.exists() and taken.read_bytes() == job.read_bytes():
+            return True
+        print(f"--- upload: status {sent.returncode}\n{sent.stdout}{sent.stderr}")
+        return False
+    finally:
+        sim.terminate()
+        sim.wait()
+
+
 def round_trip(pellam, zpd, work, name, validate=True):
     """Export, check the document against the schema, import; the saved files must equal the
     ones the job was saved with (the room-combine report carries the time of its save)."""
@@ -173,6 +199,7 @@ def main():
         # An upload runs the same check first and sends nothing with errors unless forced.
         refused = run(pellam, "upload", work / "board.zpd", "--netid", "3", "--to", "127.0.0.1:9")
         ok = refused.returncode == 1 and "not sent" in refused.stderr and ok
+        ok = uploaded(pellam, s["Conference"], work) and ok
     else:
         for name, zpd in s.items():
             round_trip(pellam, zpd, work, name)

@@ -15,7 +15,11 @@ using testing::Desk;
 std::map<std::string, std::pair<std::vector<std::string>, int>> snapshotLists(ui::UserForm1& form) {
   std::map<std::string, std::pair<std::vector<std::string>, int>> lists;
   for (const ui::Control* c : form.controls()) {
-    if (const auto* list = dynamic_cast<const ui::ListControl*>(c)) lists[std::string(c->name())] = {list->items(), list->listIndex()};
+    const auto* list = dynamic_cast<const ui::ListControl*>(c);
+    if (!list) continue;
+    // A long fixed list tells its count before it is made: the two must agree.
+    EXPECT_EQ(list->count(), static_cast<int>(list->items().size())) << c->name();
+    lists[std::string(c->name())] = {list->items(), list->listIndex()};
   }
   return lists;
 }

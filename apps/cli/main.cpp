@@ -15,6 +15,8 @@
 #include "files/controller_address.h"
 #include "files/file_type.h"
 #include "files/job_paths.h"
+#include "files/replace_files.h"
+#include "files/save_job.h"
 #include "tools/job_check.h"
 #include "tools/job_diff.h"
 #include "tools/job_json.h"
@@ -65,6 +67,8 @@ std::optional<std::vector<std::uint8_t>> readJob(const std::string& path) {
 
 int showJob(const std::string& path) {
   namespace component = pellam::component;
+  // Opening a job finishes a save of it that was cut off, in every face.
+  pellam::files::RecoverInterruptedSave(pellam::files::jobPrefix(path));
   const auto bytes = readJob(path);
   if (!bytes) return kRefused;
   // Never freed: the process ends here, and the form's thousands of list items would only be

@@ -25,7 +25,7 @@ TEST(SetLabelTest, NumbersBeyond255AreAProgrammingError) {
   EXPECT_EQ(desk.shown(), Lines{});
 }
 
-// Labelling through the page is walked through in tests/scripts/naming_page; a room name
+// Labelling through the page is walked through in tests/scripts/room_combine_job; a room name
 // shows nowhere on the form, so it is checked here.
 TEST(NamingPageTest, StoringARoomNameNeverRefuses) {
   Desk desk;

@@ -9,7 +9,7 @@
 #include "support/desk.h"
 
 // The page as a person walks it is in tests/scripts/preset_emulation and preset_open; these
-// cases need records no form can make, or the bytes behind a full input.
+// cases need records no form can make, or a full input, which takes 38 adds.
 namespace pellam::editors::preset_emulation {
 namespace {
 
@@ -77,8 +77,13 @@ TEST_F(PresetEmulationPageTest, RebuildReusesTheActionOfTheLineBefore) {
                                        "  NetId: 3  Personality  0  Max Off"}));
 }
 
+// An input holds 37 entries, as many as its block; the board's own input has a block of its own.
 TEST_F(PresetEmulationPageTest, AFullInputLeavesTheNextInputsBlockAlone) {
   for (int netId = 1; netId <= 38; ++netId) addKx(kContactClosure, netId, 0);
+  EXPECT_EQ(desk.shown(), Lines{"msgbox \"Input Memory Full: NetId 38 Not Added\" OK"});
+  EXPECT_EQ(f.ListBox5.count(), 37);
+  f.CommandButton24.click();
+  EXPECT_EQ(f.ListBox10.items(), Lines{"Contact Closure  NetId: 38  Personality  0  Preset :1"});
   chooseInput(4);
   addKx(kT6600Entry, 38, 1);
   image::EepromImage image;

@@ -7,9 +7,45 @@
 #include "support/desk.h"
 
 // The page as a person walks it, and a job saved and opened again, are in
-// tests/scripts/remote_commands; an image without entries needs a job opened over another.
+// tests/scripts/remote_commands; a full input takes 31 adds, and an image without entries
+// needs a job opened over another.
 namespace pellam::editors::remote_commands {
 namespace {
+
+// Thirty stations fill an input, a duplicate is refused as full too, and the image keeps 29.
+TEST(RemoteCommandsPageTest, ThirtyStationsFillAnInputAndTheImageKeepsTwentyNine) {
+  testing::Desk desk;
+  desk.startUp();
+  ui::UserForm1& f = desk.form();
+  f.ComboBox48.select(2);
+  f.ComboBox1.select(1);
+  f.ComboBox2.select(1);
+  f.ComboBox6.select(1);
+  f.CommandButton4.click();
+  f.OptionButton13.choose();
+  f.ComboBox69.select(9);
+  f.ComboBox70.select(2);
+  f.ListBox17.select(3);
+  desk.shown();
+  const auto add = [&](int netId) {
+    f.ComboBox68.select(netId);
+    f.CommandButton38.click();
+  };
+  for (int netId = 1; netId <= 31; ++netId) add(netId);
+  add(5);
+  EXPECT_EQ(desk.shown(), std::vector<std::string>(2, "msgbox \"Max of 30 Stations Per Input\" OK"));
+  EXPECT_EQ(f.ListBox19.count(), 30);
+
+  testing::TempFolder folder;
+  std::string path = folder.file("rc.txt");
+  desk.class1().Create_Pellam_Zpd(path);
+  desk.startUp();
+  path = folder.file("rc.zpd");
+  desk.class1().ReadZPD_ImageFile(path);
+  f.ComboBox69.select(9);
+  EXPECT_EQ(f.ListBox19.count(), 29);
+  EXPECT_EQ(f.ListBox19.items().back(), "NetId 29 Btn 4");
+}
 
 TEST(RemoteCommandsPageTest, AnImageWithoutEntriesShowsNoneAndTheDisabledMode) {
   testing::Desk desk;

@@ -6,7 +6,7 @@
 #include "editors/room_combine/room_combine_page.h"
 #include "support/desk.h"
 
-// What a person does on the page is walked through in tests/scripts/room_combine_page.
+// What a person does on the page is walked through in tests/scripts/room_combine_job.
 namespace pellam::editors::room_combine {
 namespace {
 

@@ -50,7 +50,8 @@ class RoomLinkPageTest : public ::testing::Test {
   job::RoomLinkTable& table = desk.job().roomLink;
 };
 
-// The rest of the page as a person walks it is in tests/scripts/room_link_group_*.
+// The rest of the page as a person walks it is in tests/scripts/room_link_job, room_combine_job and
+// station_link_job.
 TEST_F(RoomLinkPageTest, DeleteRelistsEveryInputInRecordOrder) {
   linkInGroupB(5, 1, 2);
   linkInGroupB(2, 3, 4);

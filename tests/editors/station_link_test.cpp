@@ -9,7 +9,7 @@
 #include "image/pack.h"
 #include "support/desk.h"
 
-// The page as a person walks it is in tests/scripts/station_link and station_job_open.
+// The page as a person walks it is in tests/scripts/station_link_job and station_job_open.
 namespace pellam::editors::station_link {
 namespace {
 

@@ -17,10 +17,7 @@ TEST(RemoteCommandsPageTest, ThirtyStationsFillAnInputAndTheImageKeepsTwentyNine
   testing::Desk desk;
   desk.startUp();
   ui::UserForm1& f = desk.form();
-  f.ComboBox48.select(2);
-  f.ComboBox1.select(1);
-  f.ComboBox2.select(1);
-  f.ComboBox6.select(1);
+  desk.chooseBoard(1);
   f.CommandButton4.click();
   f.OptionButton13.choose();
   f.ComboBox69.select(9);

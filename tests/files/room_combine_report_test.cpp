@@ -15,11 +15,7 @@ using testing::readAll;
 
 void roomCombineJob(Desk& desk) {
   desk.startUp();
-  ui::UserForm1& f = desk.form();
-  f.ComboBox48.select(2);
-  f.ComboBox1.select(3);
-  f.ComboBox2.select(1);
-  f.ComboBox6.select(1);
+  desk.chooseBoard(3);
 }
 
 const std::string kHeader =

@@ -47,10 +47,7 @@ std::string firstDifference(const std::map<std::string, std::string>& a, const s
 // inputs and remote commands, and a table for the mode filled as its editor would.
 void buildJob(Desk& desk, int mode) {
   ui::UserForm1& f = desk.form();
-  f.ComboBox48.select(2);
-  f.ComboBox1.select(mode);
-  f.ComboBox2.select(1);
-  f.ComboBox6.select(mode == 1 || mode == 4 ? 5 : 2);
+  desk.chooseBoard(mode, mode == 1 || mode == 4 ? 5 : 2);
   f.OptionButton4.choose();
   f.OptionButton8.choose();
   f.ComboBox55.select(190);

@@ -22,10 +22,7 @@ class MasterInputsTest : public ::testing::Test {
 
   // A channel-emulation master, whose action list ends with "Latch Unlatch" at 5.
   void confirmBoard(int action) {
-    f.ComboBox48.select(2);
-    f.ComboBox1.select(1);
-    f.ComboBox2.select(job::kMaster);
-    f.ComboBox6.select(action);
+    desk.chooseBoard(1, action);
     f.CommandButton4.click();
   }
 

@@ -27,6 +27,13 @@ class Desk {
   job::Job& job() { return session_->job; }
   component::Class1 class1() { return component::Class1(*session_); }
   void startUp() { component::Initailize_Pellam_Variables_And_Form(*session_); }
+  // A Pellam master board of `mode` with input action `action`, chosen on the board page.
+  void chooseBoard(int mode, int action = 1) {
+    form().ComboBox48.select(2);
+    form().ComboBox1.select(mode);
+    form().ComboBox2.select(1);
+    form().ComboBox6.select(action);
+  }
 
   void answer(ui::Answer a) { platform_.queueAnswer(a, "queued", 0); }
   void choosePath(std::string path) { platform_.queuePath(std::move(path), 0); }

@@ -122,7 +122,6 @@ class TextBox : public Control {
   std::string text_;
 };
 
-// Combo boxes and list boxes: items, a list index (-1 = nothing chosen) and a click handler.
 // A long list of choices that never changes, made once per process when first read and shared
 // by every control that offers it: the form's channels and rooms are thousands of items that a
 // command-line run mostly never reads.
@@ -139,6 +138,7 @@ class FixedList {
   mutable std::vector<std::string> items_;
 };
 
+// Combo boxes and list boxes: items, a list index (-1 = nothing chosen) and a click handler.
 class ListControl : public Control {
  public:
   using Control::Control;

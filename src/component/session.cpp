@@ -31,7 +31,7 @@ std::array<ui::EditorPage*, 10> Session::editorPages() {
           &stationPersonalityPage, &roomCombinePage, &namingPage, &remoteCommandsPage, &inputNumberingPage};
 }
 
-bool Session::modified() const { return recovered_ || !job::sameContent(job, unmodified_); }
+bool Session::modified() const { return recovered_ || !unmodified_ || !job::sameContent(job, *unmodified_); }
 
 void Session::checkThread() const {
   if (std::this_thread::get_id() != owner_) throw std::logic_error("the session was called from another thread");

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 #include <string>
 #include <thread>
 
@@ -93,15 +94,27 @@ class Session {
   // saved: every face asks this before it lets a job go.
   bool modified() const;
   void markUnmodified() {
-    unmodified_ = job;
     recovered_ = false;
+    if (!tracksChanges_) return;
+    if (unmodified_) {
+      *unmodified_ = job;
+    } else {
+      unmodified_ = std::make_unique<job::Job>(job);
+    }
+  }
+  // For a session nobody works in (the command line's tools): no copy of the job (165 kB, a
+  // page fault for every 4 kB) is kept to tell whether it changed; it always counts as changed.
+  void stopTrackingChanges() {
+    tracksChanges_ = false;
+    unmodified_.reset();
   }
   // A job brought back after a crash is unsaved work whatever it holds.
   void markRecovered() { recovered_ = true; }
 
  private:
   PlatformProxy platform_;
-  job::Job unmodified_;
+  std::unique_ptr<job::Job> unmodified_;  // the job as last started, opened or saved
+  bool tracksChanges_ = true;
   bool recovered_ = false;
   std::thread::id owner_ = std::this_thread::get_id();
 

@@ -2,6 +2,7 @@
 
 #include "component/operating_modes.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -55,14 +56,15 @@ void listChannelEmulation(std::string& out, const job::Job& job) {
   for (int k = 1; k <= kBank; ++k) {
     for (int action : {1, 2}) {
       const job::ChannelEmulationRecord& r = job.channelEmulation.records[static_cast<std::size_t>(action == 1 ? k : k + kBank)];
-      std::string lines;
-      for (int s = 0; s < job::kChannelSlotsListed; ++s) {
-        const auto slot = static_cast<std::size_t>(s);
-        if (r.Channels[slot] > 0) put(lines, "    ", ce::channelLine(r.Channels[slot], r.Levels[slot]), "\n");
-      }
-      if (lines.empty()) continue;
+      const auto slots = static_cast<std::size_t>(job::kChannelSlotsListed);
+      // Written straight into the listing, an input's heading once it is known to have lines.
+      if (std::none_of(r.Channels.begin(), r.Channels.begin() + job::kChannelSlotsListed, [](int c) { return c > 0; }))
+        continue;
       put(out, "  Input: ", k, action == 1 ? ", action one, " : ", action two, ",
-          r.FadeRate > 0 ? ce::fadeRateLabel(r.FadeRate) : "no fade rate", "\n", lines);
+          r.FadeRate > 0 ? ce::fadeRateLabel(r.FadeRate) : "no fade rate", "\n");
+      for (std::size_t s = 0; s < slots; ++s) {
+        if (r.Channels[s] > 0) put(out, "    ", ce::channelLine(r.Channels[s], r.Levels[s]), "\n");
+      }
     }
   }
 }

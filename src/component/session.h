@@ -102,11 +102,13 @@ class Session {
       unmodified_ = std::make_unique<job::Job>(job);
     }
   }
-  // For a session nobody works in (the command line's tools): no copy of the job (165 kB, a
-  // page fault for every 4 kB) is kept to tell whether it changed; it always counts as changed.
-  void stopTrackingChanges() {
+  // For a session nobody works in or sees (the command line's tools): no copy of the job
+  // (165 kB, a page fault for every 4 kB) is kept to tell whether it changed, so it always
+  // counts as changed, and an open fills none of the pages' lists that only a person reads.
+  void runUnattended() {
     tracksChanges_ = false;
     unmodified_.reset();
+    for (ui::EditorPage* page : editorPages()) page->seen = false;
   }
   // A job brought back after a crash is unsaved work whatever it holds.
   void markRecovered() { recovered_ = true; }

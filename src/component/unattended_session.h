@@ -15,7 +15,7 @@ class UnattendedSession {
  public:
   explicit UnattendedSession(std::ostream& log)
       : dialogs_(log), session_(std::make_unique<Session>(dialogs_, shell_, clock_)) {
-    session_->stopTrackingChanges();
+    session_->runUnattended();
     Initailize_Pellam_Variables_And_Form(*session_);
   }
   Session& operator*() { return *session_; }

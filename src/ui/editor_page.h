@@ -15,6 +15,10 @@ class EditorPage {
   virtual void listDecoded() {}
   virtual void reset() {}
 
+  // Whether a person sees the page: one nobody sees (the command line's tools) fills no list
+  // that only a person reads when a job is opened.
+  bool seen = true;
+
  protected:
   EditorPage() = default;
   EditorPage(const EditorPage&) = delete;

@@ -124,6 +124,7 @@ void ChannelEmulationPage::clear() {
 }
 
 void ChannelEmulationPage::listDecoded() {
+  if (!seen) return;
   int first = 1;
   for (int input = 1; input <= kActionTwoOffset; ++input) {
     if (recordAt(table_, input).InputNumber != 0) {

@@ -78,7 +78,9 @@ void InputNumberingPage::clear() {
   form_.ListBox101.clear();
 }
 
-void InputNumberingPage::listDecoded() { relist(); }
+void InputNumberingPage::listDecoded() {
+  if (seen) relist();
+}
 
 void InputNumberingPage::relist() {
   std::vector<std::string> lines;

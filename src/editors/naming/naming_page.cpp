@@ -78,6 +78,7 @@ void NamingPage::clear() {
 }
 
 void NamingPage::listDecoded() {
+  if (!seen) return;
   form_.ListBox12.clear();
   form_.ComboBox58.clear();
   for (std::size_t i = 0; i < names_.names.size(); ++i) {

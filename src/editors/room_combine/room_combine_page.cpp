@@ -46,6 +46,7 @@ void RoomCombinePage::reset() {
 void RoomCombinePage::clear() { form_.ListBox1.clear(); }
 
 void RoomCombinePage::listDecoded() {
+  if (!seen) return;
   form_.Label38.setCaption("");
   allView_.rebuild(table_, form_.ListBox1);
 }

@@ -46,7 +46,9 @@ void StationLinkPage::clear() {
 }
 
 // Every decoded station is listed, slots 127 and 128 too: the list shows what the file holds.
-void StationLinkPage::listDecoded() { relist(kSlots - 1, true); }
+void StationLinkPage::listDecoded() {
+  if (seen) relist(kSlots - 1, true);
+}
 
 // Taking up a type starts a new link, so the person's room choices count from here on.
 void StationLinkPage::chooseType() {

@@ -14,6 +14,7 @@
 #include <commctrl.h>
 #include <oleauto.h>
 
+#include "component/script/script_tokens.h"
 #include "pellam.h"
 #include "ui/user_form_table.h"
 #include "wide_text.h"
@@ -203,19 +204,6 @@ int pages(const std::wstring& out, int count, wchar_t** jobs) {
   return 0;
 }
 
-// One argument of a script line: a word, or a quoted string with its escapes.
-std::string argument(const std::string& line, std::size_t& at) {
-  while (at < line.size() && line[at] == ' ') ++at;
-  std::string word;
-  if (at < line.size() && line[at] == '"') {
-    for (++at; at < line.size() && line[at] != '"'; ++at) word += line[at] == '\\' ? line[++at] : line[at];
-    ++at;
-  } else {
-    while (at < line.size() && line[at] != ' ') word += line[at++];
-  }
-  return word;
-}
-
 // Brings a control's page to the front by its tab, as a person must before using it.
 void showPageOf(HWND form, std::string_view name) {
   std::string_view page = name;
@@ -270,11 +258,13 @@ int drive(const std::wstring& script, const std::wstring& folder) {
   std::string line;
   while (std::getline(in, line)) {
     if (!line.empty() && line.back() == '\r') line.pop_back();
-    std::size_t at = 0;
-    const std::string command = argument(line, at);
-    if (command.empty() || command[0] == '#') continue;
+    const auto words = pellam::component::script::tokenize(line);
+    if (words.empty()) continue;
+    // Word n of the line; empty past its end.
+    const auto argument = [&](std::size_t n) { return n < words.size() ? words[n].text : std::string(); };
+    const std::string& command = words[0].text;
     if (command == "call") {
-      const std::string member = argument(line, at);
+      const std::string member = argument(1);
       if (member == "Initailize_Pellam_Variables_And_Form") {
         host.o->Initailize_Pellam_Variables_And_Form(&host.empty);
       } else if (member == "New_KX_Job_Display_Board_SetUp") {
@@ -282,21 +272,21 @@ int drive(const std::wstring& script, const std::wstring& folder) {
         host.o->Load_User_Form(&host.empty);  // a person needs the form shown
         form = findForm(0);
       } else if (member == "Create_Pellam_Zpd") {
-        host.path(&_Class1::Create_Pellam_Zpd, argument(line, at));
+        host.path(&_Class1::Create_Pellam_Zpd, argument(2));
       } else {
         fail("the drive does not call " + member);
       }
     } else if (command == "select" || command == "click" || command == "text") {
       if (!form) fail("no form shown");
-      const std::string name = argument(line, at);
+      const std::string name = argument(1);
       HWND control = reach(form, name);
       if (command == "select") {
-        selectItem(control, std::stoi(argument(line, at)));
+        selectItem(control, std::stoi(argument(2)));
       } else if (command == "click") {
         SendMessageW(control, BM_CLICK, 0, 0);
       } else {
         // Pasted over whatever the box held: one change, as the script's one line.
-        const std::wstring text = pellam::win::wide(argument(line, at));
+        const std::wstring text = pellam::win::wide(argument(2));
         SendMessageW(control, EM_SETSEL, 0, -1);
         SendMessageW(control, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
       }

@@ -24,7 +24,7 @@ using namespace pellam;
 // A script may type any address and press "Up Load": nothing may leave the machine.
 class NoNetwork final : public files::FtpTransport {
  public:
-  void run(const files::TransferJob&, const files::TransferTick&) override {
+  files::TransferResult run(const files::TransferJob&, const files::TransferTick&) override {
     throw std::runtime_error("no network while fuzzing");
   }
 };

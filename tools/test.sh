@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds and runs every test: the Windows build of the core,
 # pellam.exe and Pellam.dll first (nothing POSIX-only may creep in), then g++ with -Werror,
-# then clang under AddressSanitizer and UndefinedBehaviorSanitizer, then the COM server
-# under Wine in both widths.
+# then clang under AddressSanitizer and UndefinedBehaviorSanitizer, the fuzz targets built,
+# then the COM server under Wine in both widths.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source tools/packages.sh
@@ -22,6 +22,10 @@ echo "== clang with AddressSanitizer and UndefinedBehaviorSanitizer"
 cmake --preset clang-sanitize >/dev/null
 cmake --build --preset clang-sanitize
 ctest --preset clang-sanitize
+
+echo "== libFuzzer targets: built, so that they keep up with the core (runs are by hand)"
+cmake --preset fuzz >/dev/null
+cmake --build --preset fuzz --target fuzz_opener fuzz_script
 
 echo "== COM server under Wine"
 bash tools/test-com.sh

@@ -64,31 +64,30 @@ std::vector<std::string> fadeRates() {
 std::vector<std::string> levels() { return numbered("", 0, 100, "%"); }
 std::vector<std::string> inputs() { return withBlank(numbered("Input ", 1, 16)); }
 
-// The long lists, each with its count, so that none is made before it is read.
+// The long lists, so that none is made before it is read.
 const FixedList& firstChannels() {
-  static const FixedList list(job::kLastScannedChannel + 1,
-                              [] { return withBlank(numbered("Channel :", 1, job::kLastScannedChannel)); });
+  static const FixedList list("Channel :", job::kLastScannedChannel);
   return list;
 }
 const FixedList& rooms() {
-  static const FixedList list(256, [] { return withBlank(numbered("Room ", 1, 255)); });
+  static const FixedList list("Room ", 255);
   return list;
 }
 const FixedList& groups() {
-  static const FixedList list(256, [] { return withBlank(numbered("Group ", 1, 255)); });
+  static const FixedList list("Group ", 255);
   return list;
 }
 const FixedList& channels() {
-  static const FixedList list(job::kLastChannel + 1, [] { return withBlank(numbered("", 1, job::kLastChannel)); });
+  static const FixedList list("", job::kLastChannel);
   return list;
 }
 const FixedList& personalities() {
-  static const FixedList list(256, [] { return withBlank(numbered("Personality ", 1, 255)); });
+  static const FixedList list("Personality ", 255);
   return list;
 }
 // Net ids above 127 are offered so that the page can refuse them by name.
 const FixedList& remoteNetIds() {
-  static const FixedList list(256, [] { return withBlank(numbered("", 1, 255)); });
+  static const FixedList list("", 255);
   return list;
 }
 
@@ -106,3 +105,12 @@ std::vector<std::string> remotePages() { return withBlank(numbered("", 1, 16)); 
 std::vector<std::string> remoteButtons() { return numbered("", 1, 16); }
 
 }  // namespace pellam::ui::lists
+
+namespace pellam::ui {
+
+const std::vector<std::string>& FixedList::items() const {
+  std::call_once(made_, [this] { items_ = lists::withBlank(lists::numbered(prefix_, 1, last_)); });
+  return items_;
+}
+
+}  // namespace pellam::ui

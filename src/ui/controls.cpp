@@ -90,11 +90,6 @@ void TextBox::reset() {
   Control::reset();
 }
 
-const std::vector<std::string>& FixedList::items() const {
-  std::call_once(made_, [this] { items_ = make_(); });
-  return items_;
-}
-
 const std::string& ListControl::item(int index) const {
   if (index < 0 || index >= count()) throw job::RuntimeError(kInvalidPropertyValue);
   return items()[static_cast<std::size_t>(index)];

@@ -122,18 +122,19 @@ class TextBox : public Control {
   std::string text_;
 };
 
-// A long list of choices that never changes, made once per process when first read and shared
-// by every control that offers it: the form's channels and rooms are thousands of items that a
-// command-line run mostly never reads.
+// A long list of choices that never changes: the blank item, then PREFIX1 .. PREFIXlast, so that
+// a position is the number. Made once per process when first read and shared by every control
+// that offers it: the form's channels and rooms are thousands of items that a command-line run
+// mostly never reads.
 class FixedList {
  public:
-  FixedList(int count, std::vector<std::string> (*make)()) : count_(count), make_(make) {}
-  int count() const { return count_; }
-  const std::vector<std::string>& items() const;
+  FixedList(std::string_view prefix, int last) : prefix_(prefix), last_(last) {}
+  int count() const { return last_ + 1; }
+  const std::vector<std::string>& items() const;  // with the other choice lists
 
  private:
-  int count_;
-  std::vector<std::string> (*make_)();
+  std::string_view prefix_;
+  int last_;
   mutable std::once_flag made_;
   mutable std::vector<std::string> items_;
 };

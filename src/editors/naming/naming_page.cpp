@@ -63,8 +63,7 @@ NamingPage::NamingPage(ui::UserForm1& form, job::RoomGroupNames& names, ui::Dial
 
 // A list position is the number itself; the label lists stay, as the table does.
 void NamingPage::fillLists() {
-  static const ui::FixedList numbers(kLastNumber + 1,
-                                     [] { return ui::lists::withBlank(ui::lists::numbered("", 1, kLastNumber)); });
+  static const ui::FixedList numbers("", kLastNumber);
   form_.ComboBox101.setItems(numbers);
   form_.ComboBox102.setItems(numbers);
   form_.ListBox13.setItems(numbers);

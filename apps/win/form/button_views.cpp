@@ -8,13 +8,13 @@ class CommandView final : public ControlView {
   CommandView(ui::CommandButton& control, HWND parent, int id, PersonAction act)
       : control_(control), act_(std::move(act)) {
     spec_ = &control.spec();
-    create(L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0, parent, id);
+    create(L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0, parent, id, &control, plainCaption(control.caption()));
   }
   void command(WORD code) override {
     if (code == BN_CLICKED && !redrawing_) act_([&] { control_.click(); });
   }
   void redraw() override {
-    setText(control_.caption(), true);
+    setText(window_, plainCaption(control_.caption()));
     showState(control_);
   }
 
@@ -29,14 +29,14 @@ class OptionView final : public ControlView {
   OptionView(ui::OptionButton& control, HWND parent, int id, PersonAction act)
       : control_(control), act_(std::move(act)) {
     spec_ = &control.spec();
-    create(L"BUTTON", BS_RADIOBUTTON | WS_TABSTOP, 0, parent, id);
+    create(L"BUTTON", BS_RADIOBUTTON | WS_TABSTOP, 0, parent, id, &control, plainCaption(control.caption()));
   }
   void command(WORD code) override {
     if (code == BN_CLICKED && !redrawing_) act_([&] { control_.choose(); });
   }
   void redraw() override {
     redrawing_ = true;
-    setText(control_.caption(), true);
+    setText(window_, plainCaption(control_.caption()));
     SendMessageW(window_, BM_SETCHECK, control_.value() ? BST_CHECKED : BST_UNCHECKED, 0);
     showState(control_);
     redrawing_ = false;

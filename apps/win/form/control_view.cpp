@@ -18,6 +18,13 @@ LRESULT CALLBACK panelProcedure(HWND window, UINT message, WPARAM wParam, LPARAM
     return 0;
   }
   if (message == WM_GETFONT) return reinterpret_cast<LRESULT>(GetPropW(window, L"PellamFont"));
+  if (message == WM_PAINT) {
+    PAINTSTRUCT paint;
+    HDC dc = BeginPaint(window, &paint);
+    if (const PanelView* panel = PanelView::of(window)) panel->paint(dc);
+    EndPaint(window, &paint);
+    return 0;
+  }
   if (message == WM_NOTIFY) {
     const auto* header = reinterpret_cast<const NMHDR*>(lParam);
     if (ControlView* view = viewOf(header->hwndFrom)) view->notify(header->code);
@@ -35,8 +42,6 @@ LRESULT CALLBACK panelProcedure(HWND window, UINT message, WPARAM wParam, LPARAM
   return DefWindowProcW(window, message, wParam, lParam);
 }
 
-}  // namespace
-
 const wchar_t* panelClass() {
   static const bool registered = [] {
     WNDCLASSEXW c{};
@@ -52,6 +57,8 @@ const wchar_t* panelClass() {
   return kPanelClass;
 }
 
+}  // namespace
+
 ControlView* viewOf(HWND window) { return window ? static_cast<ControlView*>(GetPropW(window, L"PellamView")) : nullptr; }
 
 ControlView::~ControlView() {
@@ -61,10 +68,14 @@ ControlView::~ControlView() {
   }
 }
 
-// Made where they belong: under Wine moving a combo box costs as much as making one.
-void ControlView::create(const wchar_t* windowClass, DWORD style, DWORD exStyle, HWND parent, int id) {
+// Made where they belong and as they show: under Wine moving a combo box costs as much as
+// making one, and every later change of a window is a round trip to the server.
+void ControlView::create(const wchar_t* windowClass, DWORD style, DWORD exStyle, HWND parent, int id,
+                         const ui::Control* state, const std::wstring& text) {
   const RECT at = placeAt(Scale{dpiOf(parent)});
-  window_ = CreateWindowExW(exStyle, windowClass, L"", style | WS_CHILD, at.left, at.top, at.right - at.left,
+  style |= WS_CHILD;
+  if (state) style |= (state->visible() ? WS_VISIBLE : 0) | (state->enabled() ? 0 : WS_DISABLED);
+  window_ = CreateWindowExW(exStyle, windowClass, text.c_str(), style, at.left, at.top, at.right - at.left,
                             at.bottom - at.top, parent,
                             reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), moduleInstance(), nullptr);
   if (!window_) throw std::runtime_error("Cannot make a window");
@@ -88,17 +99,29 @@ void ControlView::showState(const ui::Control& control) {
   if ((IsWindowEnabled(window_) != FALSE) != control.enabled()) EnableWindow(window_, control.enabled());
 }
 
-void ControlView::setText(const std::string& utf8, bool mnemonics) {
+std::wstring ControlView::plainCaption(const std::string& utf8) {
   std::wstring text = wide(utf8);
-  // A person's "&" is a character, not the mark of a key.
-  if (mnemonics) {
-    for (std::size_t at = text.find(L'&'); at != std::wstring::npos; at = text.find(L'&', at + 2)) text.insert(at, 1, L'&');
-  }
-  const int length = GetWindowTextLengthW(window_);
+  for (std::size_t at = text.find(L'&'); at != std::wstring::npos; at = text.find(L'&', at + 2)) text.insert(at, 1, L'&');
+  return text;
+}
+
+void ControlView::setText(HWND window, const std::wstring& text) {
+  const int length = GetWindowTextLengthW(window);
   std::wstring shown(static_cast<std::size_t>(length) + 1, L'\0');
-  GetWindowTextW(window_, shown.data(), length + 1);
+  GetWindowTextW(window, shown.data(), length + 1);
   shown.resize(static_cast<std::size_t>(length));
-  if (shown != text) SetWindowTextW(window_, text.c_str());
+  if (shown != text) SetWindowTextW(window, text.c_str());
+}
+
+void PanelView::create(DWORD style, HWND parent, int id, const ui::Control* state) {
+  ControlView::create(panelClass(), style, WS_EX_CONTROLPARENT, parent, id, state);
+  SetPropW(window_, L"PellamPanel", this);
+}
+
+PanelView* PanelView::of(HWND window) { return static_cast<PanelView*>(GetPropW(window, L"PellamPanel")); }
+
+void PanelView::paint(HDC dc) const {
+  for (const ControlView* label : drawn_) label->paint(dc);
 }
 
 }  // namespace pellam::win

@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include <windows.h>
 
@@ -32,19 +33,25 @@ class ControlView {
   virtual void command(WORD) {}
   // A WM_NOTIFY code from the window.
   virtual void notify(UINT) {}
+  // Draws a view without a window of its own onto its panel.
+  virtual void paint(HDC) const {}
   // Places the window at the table's position in its parent, at the parent's scale: only
   // when the scale changes, since a window is made in its place.
   virtual void place(const Scale& scale);
 
  protected:
-  // Makes the window in its place at the parent's scale and ties it to this view.
-  void create(const wchar_t* windowClass, DWORD style, DWORD exStyle, HWND parent, int id);
+  // Makes the window in its place at the parent's scale, showing `text` and the Visible and
+  // Enabled of `state` (hidden without one), and ties it to this view.
+  void create(const wchar_t* windowClass, DWORD style, DWORD exStyle, HWND parent, int id, const ui::Control* state,
+              const std::wstring& text = {});
   // The window's rectangle in its parent at a scale.
   virtual RECT placeAt(const Scale& scale) const;
   // The control's Visible and Enabled onto its window: every view's redraw ends with them.
   void showState(const ui::Control& control);
-  // Sets the window's text only when it differs, so that nothing flickers or notifies in vain.
-  void setText(const std::string& utf8, bool mnemonics = false);
+  // Sets a window's text only when it differs, so that nothing flickers or notifies in vain.
+  static void setText(HWND window, const std::wstring& text);
+  // A caption as a button shows it: a person's "&" is a character, not the mark of a key.
+  static std::wstring plainCaption(const std::string& utf8);
 
   const ui::ControlSpec* spec_ = nullptr;
   HWND window_ = nullptr;
@@ -56,15 +63,31 @@ ControlView* viewOf(HWND window);
 
 std::unique_ptr<ControlView> makeListView(ui::ListControl& control, HWND parent, int id, PersonAction act);
 std::unique_ptr<ControlView> makeTextView(ui::TextBox& control, HWND parent, int id, PersonAction act);
-std::unique_ptr<ControlView> makeCaptionView(ui::CaptionedControl& control, HWND parent, int id);
+std::unique_ptr<ControlView> makeFrameView(ui::CaptionedControl& control, HWND parent, int id);
 std::unique_ptr<ControlView> makeButtonView(ui::CaptionedControl& control, HWND parent, int id, PersonAction act);
 // The tabs show the pages that are visible; choosing one shows its page through `showPage`.
 std::unique_ptr<ControlView> makeMultiPageView(ui::MultiPage& control, HWND parent, int id, PersonAction act,
                                                std::function<void(int page)> showPage);
 std::unique_ptr<ControlView> makePageView(ui::Page& control, HWND parent, int id);
 
-// The window class of pages and frames: a plain surface that passes its children's
-// notifications on to their views.
-const wchar_t* panelClass();
+// A page or a frame: a plain window that passes its children's notifications on to their views
+// and draws the labels that lie on it, which have no windows of their own.
+class PanelView : public ControlView {
+ public:
+  void holdDrawn(const ControlView* label) { drawn_.push_back(label); }
+  void dropDrawn(const ControlView* label) { std::erase(drawn_, label); }
+  virtual void paint(HDC dc) const;
+  // The panel of a window made by PanelView::create(), or nullptr.
+  static PanelView* of(HWND window);
+
+ protected:
+  void create(DWORD style, HWND parent, int id, const ui::Control* state);
+
+ private:
+  std::vector<const ControlView*> drawn_;
+};
+
+// A label is drawn by the page or frame it lies on.
+std::unique_ptr<ControlView> makeLabelView(ui::CaptionedControl& control, HWND parent);
 
 }  // namespace pellam::win

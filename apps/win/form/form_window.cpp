@@ -38,25 +38,24 @@ const wchar_t* formClass() {
   return kFormClass;
 }
 
-// Where each control comes in the reading order; a frame comes where its first control does.
-const std::unordered_map<std::string_view, int>& readingPlace() {
+// Where each control comes in the reading order, which reads a frame before its controls.
+int readingPlaceOf(const ui::Control& control) {
   static const auto places = [] {
     std::unordered_map<std::string_view, int> place;
     int n = 0;
     for (const ui::ControlSpec* spec : ui::readingOrder(ui::userForm1Table())) {
-      place.emplace(spec->name, n);
-      place.emplace(spec->parent, n);  // the first control read in a frame places the frame
-      ++n;
+      place.emplace(spec->name, n++);
     }
     return place;
   }();
-  return places;
+  const auto place = places.find(control.name());
+  return place == places.end() ? 1 << 30 : place->second;
 }
 
 std::unique_ptr<ControlView> makeView(ui::Control& c, HWND parent, int id, const PersonAction& act) {
   switch (c.kind()) {
-    case ui::Kind::Frame:
-    case ui::Kind::Label: return makeCaptionView(static_cast<ui::CaptionedControl&>(c), parent, id);
+    case ui::Kind::Frame: return makeFrameView(static_cast<ui::CaptionedControl&>(c), parent, id);
+    case ui::Kind::Label: return makeLabelView(static_cast<ui::CaptionedControl&>(c), parent);
     case ui::Kind::TextBox: return makeTextView(static_cast<ui::TextBox&>(c), parent, id, act);
     case ui::Kind::ComboBox:
     case ui::Kind::ListBox: return makeListView(static_cast<ui::ListControl&>(c), parent, id, act);
@@ -98,6 +97,12 @@ FormWindow::FormWindow(ui::UserForm1& form, HMENU menu) : form_(form) {
       unbuilt_[ui::pageOf(form_, *control)].push_back(control);
     }
     ++id;
+  }
+  // Made in reading order, each parent's children come in the order Tab steps through them.
+  for (auto& [page, controls] : unbuilt_) {
+    std::stable_sort(controls.begin(), controls.end(), [](const ui::Control* a, const ui::Control* b) {
+      return readingPlaceOf(*a) < readingPlaceOf(*b);
+    });
   }
   pages_.resize(form_.MultiPage1.pages().size());
   // The tabs' height, and so where the pages start, is known once they hold their tabs.
@@ -143,9 +148,11 @@ void FormWindow::build(const ui::Control* page, const std::function<bool(const u
   const PerMonitorAware aware;
   const VisualStyles styles(moduleInstance());
   const auto& pages = form_.MultiPage1.pages();
-  pageView(static_cast<std::size_t>(std::find(pages.begin(), pages.end(), page) - pages.begin()));
+  const auto index = static_cast<std::size_t>(std::find(pages.begin(), pages.end(), page) - pages.begin());
+  const bool fresh = !pages_[index];
+  pageView(index);
   std::vector<ControlView*> made;
-  // The table lists a frame before its controls.
+  // A frame is made before its controls.
   std::erase_if(found->second, [&](ui::Control* control) {
     const auto frame = byControl_.find(form_.find(control->spec().parent));
     if (frame == byControl_.end() || !wanted(*control)) return false;
@@ -155,7 +162,8 @@ void FormWindow::build(const ui::Control* page, const std::function<bool(const u
   if (found->second.empty()) unbuilt_.erase(found);
   if (made.empty()) return;
   for (ControlView* view : made) view->redraw();
-  orderTabs(*page);
+  // Controls made into a page that has some already come after them in their parents' order.
+  if (!fresh) orderTabs(*page);
 }
 
 // Under Wine each window costs about a millisecond, and a combo box several: the controls of a
@@ -171,10 +179,8 @@ void FormWindow::orderTabs(const ui::Control& page) {
   std::map<HWND, std::vector<std::pair<int, HWND>>> byParent;
   for (const auto& [control, view] : byControl_) {
     if (control->kind() == ui::Kind::Page || control->kind() == ui::Kind::MultiPage) continue;
-    if (ui::pageOf(form_, *control) != &page) continue;
-    const auto place = readingPlace().find(control->name());
-    byParent[GetParent(view->window())].emplace_back(place == readingPlace().end() ? 1 << 30 : place->second,
-                                                     view->window());
+    if (ui::pageOf(form_, *control) != &page || !view->window()) continue;
+    byParent[GetParent(view->window())].emplace_back(readingPlaceOf(*control), view->window());
   }
   for (auto& [parent, children] : byParent) {
     std::sort(children.begin(), children.end());

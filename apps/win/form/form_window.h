@@ -29,7 +29,8 @@ class FormWindow {
   FormWindow& operator=(const FormWindow&) = delete;
 
   HWND window() const { return window_; }
-  // The window of a control, its page built when needed; nullptr for a name not on the form.
+  // The window of a control, its page built when needed; nullptr for a label, which has none,
+  // and for a name not on the form.
   HWND windowFor(std::string_view name);
   // Redraws every marked control now.
   void flush();

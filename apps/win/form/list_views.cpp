@@ -20,11 +20,11 @@ class ListView final : public ControlView {
       : control_(control), act_(std::move(act)), messages_(control.kind() == ui::Kind::ComboBox ? kCombo : kList) {
     spec_ = &control.spec();
     if (control.kind() == ui::Kind::ComboBox) {
-      create(L"COMBOBOX", CBS_DROPDOWNLIST | CBS_HASSTRINGS | WS_VSCROLL | WS_TABSTOP, 0, parent, id);
+      create(L"COMBOBOX", CBS_DROPDOWNLIST | CBS_HASSTRINGS | WS_VSCROLL | WS_TABSTOP, 0, parent, id, &control);
       SendMessageW(window_, CB_SETMINVISIBLE, 20, 0);
     } else {
       create(L"LISTBOX", LBS_NOTIFY | LBS_HASSTRINGS | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_TABSTOP,
-             WS_EX_CLIENTEDGE, parent, id);
+             WS_EX_CLIENTEDGE, parent, id, &control);
     }
   }
   // A click or the arrow keys choose an item, each time one a person chose.

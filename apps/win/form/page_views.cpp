@@ -14,7 +14,7 @@ class MultiPageView final : public ControlView {
   MultiPageView(ui::MultiPage& control, HWND parent, int id, PersonAction act, std::function<void(int)> showPage)
       : control_(control), act_(std::move(act)), showPage_(std::move(showPage)) {
     spec_ = &control.spec();
-    create(WC_TABCONTROLW, WS_TABSTOP | WS_CLIPSIBLINGS | TCS_FOCUSONBUTTONDOWN, 0, parent, id);
+    create(WC_TABCONTROLW, WS_TABSTOP | WS_CLIPSIBLINGS | TCS_FOCUSONBUTTONDOWN, 0, parent, id, &control);
   }
   void notify(UINT code) override {
     if (code != TCN_SELCHANGE || redrawing_) return;
@@ -67,11 +67,11 @@ class MultiPageView final : public ControlView {
 
 // A page is a panel over the tabs' display area; the form window places it and shows the
 // chosen one. It leaves its controls' places undrawn: they draw them whole.
-class PageView final : public ControlView {
+class PageView final : public PanelView {
  public:
   PageView(ui::Page& control, HWND parent, int id) {
     spec_ = &control.spec();
-    create(panelClass(), WS_CLIPSIBLINGS | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT, parent, id);
+    create(WS_CLIPSIBLINGS | WS_CLIPCHILDREN, parent, id, nullptr);
   }
   RECT placeAt(const Scale&) const override { return {}; }
   void place(const Scale&) override {}

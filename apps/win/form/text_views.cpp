@@ -13,7 +13,7 @@ class TextView final : public ControlView {
   TextView(ui::TextBox& control, HWND parent, int id, PersonAction act) : control_(control), act_(std::move(act)) {
     spec_ = &control.spec();
     const DWORD lines = multiLine(control) ? ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL | WS_VSCROLL : ES_AUTOHSCROLL;
-    create(L"EDIT", lines | WS_TABSTOP, WS_EX_CLIENTEDGE, parent, id);
+    create(L"EDIT", lines | WS_TABSTOP, WS_EX_CLIENTEDGE, parent, id, &control, wide(control.text()));
   }
   void command(WORD code) override {
     if (code != EN_CHANGE || redrawing_) return;
@@ -25,7 +25,7 @@ class TextView final : public ControlView {
   }
   void redraw() override {
     redrawing_ = true;
-    setText(control_.text());
+    setText(window_, wide(control_.text()));
     showState(control_);
     redrawing_ = false;
   }
@@ -35,33 +35,64 @@ class TextView final : public ControlView {
   PersonAction act_;
 };
 
+// A label has no window: its panel draws it as a static control would, since under Wine every
+// window costs a few round trips to the server to make and to draw.
 class LabelView final : public ControlView {
  public:
-  LabelView(ui::CaptionedControl& control, HWND parent, int id) : control_(control) {
+  LabelView(ui::CaptionedControl& control, HWND parent) : control_(control), parent_(parent) {
     spec_ = &control.spec();
-    create(L"STATIC", SS_NOPREFIX | (multiLine(control) ? SS_LEFT : SS_LEFTNOWORDWRAP | SS_CENTERIMAGE), 0, parent, id);
+    if (PanelView* panel = PanelView::of(parent_)) panel->holdDrawn(this);
+    drawn_ = now();
+  }
+  ~LabelView() override {
+    if (PanelView* panel = PanelView::of(parent_)) panel->dropDrawn(this);
   }
   void redraw() override {
-    setText(control_.caption());
-    showState(control_);
+    State state = now();
+    if (state == drawn_) return;
+    drawn_ = std::move(state);
+    invalidate();
+  }
+  void place(const Scale&) override { InvalidateRect(parent_, nullptr, TRUE); }
+  void paint(HDC dc) const override {
+    if (!drawn_.visible) return;
+    RECT at = placeAt(Scale{dpiOf(parent_)});
+    const HGDIOBJ old = SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(parent_, WM_GETFONT, 0, 0)));
+    SetBkMode(dc, TRANSPARENT);
+    SetTextColor(dc, GetSysColor(drawn_.enabled ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT));
+    const UINT lines = multiLine(control_) ? DT_WORDBREAK : DT_SINGLELINE | DT_VCENTER;
+    DrawTextW(dc, drawn_.caption.c_str(), -1, &at, DT_LEFT | DT_EXPANDTABS | DT_NOPREFIX | lines);
+    SelectObject(dc, old);
   }
 
  private:
+  struct State {
+    std::wstring caption;
+    bool visible, enabled;
+    bool operator==(const State&) const = default;
+  };
+  State now() const { return {wide(control_.caption()), control_.visible(), control_.enabled()}; }
+  void invalidate() const {
+    const RECT at = placeAt(Scale{dpiOf(parent_)});
+    InvalidateRect(parent_, &at, TRUE);
+  }
+
   ui::CaptionedControl& control_;
+  HWND parent_;
+  State drawn_;
 };
 
 // A group box cannot hold children: the frame is a panel with the box drawn inside it, so that
 // the frame's controls come and go with it.
-class FrameView final : public ControlView {
+class FrameView final : public PanelView {
  public:
   FrameView(ui::CaptionedControl& control, HWND parent, int id) : control_(control) {
     spec_ = &control.spec();
-    create(panelClass(), WS_CLIPSIBLINGS, WS_EX_CONTROLPARENT, parent, id);
+    create(WS_CLIPSIBLINGS, parent, id, &control);
     const RECT at = placeAt(Scale{dpiOf(parent)});
-    box_ = CreateWindowExW(0, L"BUTTON", L"", WS_CHILD | WS_VISIBLE | BS_GROUPBOX, 0, 0, at.right - at.left,
-                           at.bottom - at.top, window_, nullptr, moduleInstance(), nullptr);
+    box_ = CreateWindowExW(0, L"BUTTON", plainCaption(control.caption()).c_str(), WS_CHILD | WS_VISIBLE | BS_GROUPBOX,
+                           0, 0, at.right - at.left, at.bottom - at.top, window_, nullptr, moduleInstance(), nullptr);
     SendMessageW(box_, WM_SETFONT, SendMessageW(parent, WM_GETFONT, 0, 0), FALSE);
-    SendMessageW(window_, WM_SETFONT, SendMessageW(parent, WM_GETFONT, 0, 0), FALSE);
   }
   void place(const Scale& scale) override {
     ControlView::place(scale);
@@ -70,9 +101,7 @@ class FrameView final : public ControlView {
     SetWindowPos(box_, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   }
   void redraw() override {
-    std::wstring caption = wide(control_.caption());
-    for (std::size_t at = caption.find(L'&'); at != std::wstring::npos; at = caption.find(L'&', at + 2)) caption.insert(at, 1, L'&');
-    SetWindowTextW(box_, caption.c_str());
+    setText(box_, plainCaption(control_.caption()));
     showState(control_);
   }
 
@@ -87,9 +116,12 @@ std::unique_ptr<ControlView> makeTextView(ui::TextBox& control, HWND parent, int
   return std::make_unique<TextView>(control, parent, id, std::move(act));
 }
 
-std::unique_ptr<ControlView> makeCaptionView(ui::CaptionedControl& control, HWND parent, int id) {
-  if (control.kind() == ui::Kind::Frame) return std::make_unique<FrameView>(control, parent, id);
-  return std::make_unique<LabelView>(control, parent, id);
+std::unique_ptr<ControlView> makeFrameView(ui::CaptionedControl& control, HWND parent, int id) {
+  return std::make_unique<FrameView>(control, parent, id);
+}
+
+std::unique_ptr<ControlView> makeLabelView(ui::CaptionedControl& control, HWND parent) {
+  return std::make_unique<LabelView>(control, parent);
 }
 
 }  // namespace pellam::win

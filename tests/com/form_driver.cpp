@@ -123,6 +123,16 @@ void capture(HWND form, const std::wstring& path) {
   say("picture " + pellam::win::utf8(path) + " " + std::to_string(w) + "x" + std::to_string(h));
 }
 
+std::wstring tabCaption(HWND tabs, int tab) {
+  wchar_t text[64]{};
+  TCITEMW item{};
+  item.mask = TCIF_TEXT;
+  item.pszText = text;
+  item.cchTextMax = 64;
+  SendMessageW(tabs, TCM_GETITEMW, static_cast<WPARAM>(tab), reinterpret_cast<LPARAM>(&item));
+  return text;
+}
+
 // Every tab from the first, stepped with the arrow key as a person does with the tabs focused.
 void everyPage(HWND form, const std::wstring& prefix, bool inProcess) {
   HWND tabs = FindWindowExW(form, nullptr, WC_TABCONTROLW, nullptr);
@@ -136,15 +146,7 @@ void everyPage(HWND form, const std::wstring& prefix, bool inProcess) {
     const auto shown = static_cast<int>(SendMessageW(tabs, TCM_GETCURSEL, 0, 0));
     if (shown != tab) {
       std::string captions;
-      for (int i = 0; i < count; ++i) {
-        wchar_t text[64]{};
-        TCITEMW item{};
-        item.mask = TCIF_TEXT;
-        item.pszText = text;
-        item.cchTextMax = 64;
-        SendMessageW(tabs, TCM_GETITEMW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
-        captions += " [" + pellam::win::utf8(std::wstring_view(text)) + "]";
-      }
+      for (int i = 0; i < count; ++i) captions += " [" + pellam::win::utf8(tabCaption(tabs, i)) + "]";
       capture(form, prefix + L"-failed.bmp");
       fail("tab " + std::to_string(tab) + " did not show, tab " + std::to_string(shown) + " did:" + captions);
     }
@@ -212,13 +214,7 @@ void showPageOf(HWND form, std::string_view name) {
   const std::wstring caption = pellam::win::wide(kRows[rowOf(page)].caption);
   const auto count = static_cast<int>(SendMessageW(tabs, TCM_GETITEMCOUNT, 0, 0));
   for (int tab = 0; tab < count; ++tab) {
-    wchar_t text[64]{};
-    TCITEMW item{};
-    item.mask = TCIF_TEXT;
-    item.pszText = text;
-    item.cchTextMax = 64;
-    SendMessageW(tabs, TCM_GETITEMW, static_cast<WPARAM>(tab), reinterpret_cast<LPARAM>(&item));
-    if (caption != text) continue;
+    if (caption != tabCaption(tabs, tab)) continue;
     SendMessageW(tabs, TCM_SETCURSEL, static_cast<WPARAM>(tab), 0);
     NMHDR click{tabs, static_cast<UINT_PTR>(GetDlgCtrlID(tabs)), TCN_SELCHANGE};
     SendMessageW(form, WM_NOTIFY, click.idFrom, reinterpret_cast<LPARAM>(&click));

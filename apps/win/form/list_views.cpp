@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+
 #include "wide_text.h"
 
 namespace pellam::win {
@@ -20,8 +22,10 @@ class ListView final : public ControlView {
       : control_(control), act_(std::move(act)), messages_(control.kind() == ui::Kind::ComboBox ? kCombo : kList) {
     spec_ = &control.spec();
     if (control.kind() == ui::Kind::ComboBox) {
-      create(L"COMBOBOX", CBS_DROPDOWNLIST | CBS_HASSTRINGS | WS_VSCROLL | WS_TABSTOP, 0, parent, id, &control);
-      SendMessageW(window_, CB_SETMINVISIBLE, 20, 0);
+      // Its list is sized when it drops: a list sized to whole items as it is made and given
+      // its font costs Wine some fifty round trips to the server for each combo box.
+      create(L"COMBOBOX", CBS_DROPDOWNLIST | CBS_HASSTRINGS | CBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_TABSTOP, 0, parent,
+             id, &control);
     } else {
       create(L"LISTBOX", LBS_NOTIFY | LBS_HASSTRINGS | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_TABSTOP,
              WS_EX_CLIENTEDGE, parent, id, &control);
@@ -29,6 +33,7 @@ class ListView final : public ControlView {
   }
   // A click or the arrow keys choose an item, each time one a person chose.
   void command(WORD code) override {
+    if (code == CBN_DROPDOWN && messages_.selectionChanged == CBN_SELCHANGE) return fitDroppedList();
     if (code != messages_.selectionChanged || redrawing_) return;
     const UINT current = messages_.selectionChanged == CBN_SELCHANGE ? CB_GETCURSEL : LB_GETCURSEL;
     const auto index = static_cast<int>(SendMessageW(window_, current, 0, 0));
@@ -41,14 +46,18 @@ class ListView final : public ControlView {
     showState(control_);
     redrawing_ = false;
   }
-  // A dropped combo box lists up to 20 items below its field.
-  RECT placeAt(const Scale& scale) const override {
-    RECT at = ControlView::placeAt(scale);
-    if (control_.kind() == ui::Kind::ComboBox) at.bottom += scale(20 * 16);
-    return at;
-  }
 
  private:
+  // A dropped combo box lists its items, up to 20, below its field: its window's height is the
+  // field's and the list's together, with the list's border and the pixel Wine takes off it.
+  void fitDroppedList() {
+    const auto count = static_cast<int>(SendMessageW(window_, CB_GETCOUNT, 0, 0));
+    const auto item = static_cast<int>(SendMessageW(window_, CB_GETITEMHEIGHT, 0, 0));
+    RECT field;
+    GetWindowRect(window_, &field);
+    const int height = field.bottom - field.top + std::clamp(count, 1, 20) * item + 3;
+    SetWindowPos(window_, nullptr, 0, 0, field.right - field.left, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  }
   // Lists of thousands of lines: no drawing until the last is in.
   void fill() {
     shown_ = control_.items();

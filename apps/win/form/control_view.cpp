@@ -1,6 +1,7 @@
 #include "control_view.h"
 
 #include <stdexcept>
+#include <unordered_map>
 
 #include "module_instance.h"
 #include "wide_text.h"
@@ -11,13 +12,20 @@ namespace {
 
 constexpr wchar_t kPanelClass[] = L"PellamPanel";
 
+// The view of each window made by a view: a window's property would cost Wine a round trip to
+// the server to set.
+std::unordered_map<HWND, ControlView*>& views() {
+  static std::unordered_map<HWND, ControlView*> byWindow;
+  return byWindow;
+}
+
 LRESULT CALLBACK panelProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   // Pages and frames hand their font on to the controls made in them.
-  if (message == WM_SETFONT) {
-    SetPropW(window, L"PellamFont", reinterpret_cast<HANDLE>(wParam));
-    return 0;
+  if (message == WM_SETFONT || message == WM_GETFONT) {
+    PanelView* panel = PanelView::of(window);
+    if (panel && message == WM_SETFONT) panel->font = reinterpret_cast<HFONT>(wParam);
+    return message == WM_GETFONT && panel ? reinterpret_cast<LRESULT>(panel->font) : 0;
   }
-  if (message == WM_GETFONT) return reinterpret_cast<LRESULT>(GetPropW(window, L"PellamFont"));
   if (message == WM_PAINT) {
     PAINTSTRUCT paint;
     HDC dc = BeginPaint(window, &paint);
@@ -59,11 +67,14 @@ const wchar_t* panelClass() {
 
 }  // namespace
 
-ControlView* viewOf(HWND window) { return window ? static_cast<ControlView*>(GetPropW(window, L"PellamView")) : nullptr; }
+ControlView* viewOf(HWND window) {
+  const auto found = views().find(window);
+  return found == views().end() ? nullptr : found->second;
+}
 
 ControlView::~ControlView() {
   if (window_) {
-    RemovePropW(window_, L"PellamView");
+    views().erase(window_);
     DestroyWindow(window_);
   }
 }
@@ -79,7 +90,7 @@ void ControlView::create(const wchar_t* windowClass, DWORD style, DWORD exStyle,
                             at.bottom - at.top, parent,
                             reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), moduleInstance(), nullptr);
   if (!window_) throw std::runtime_error("Cannot make a window");
-  SetPropW(window_, L"PellamView", this);
+  views()[window_] = this;
   SendMessageW(window_, WM_SETFONT, SendMessageW(parent, WM_GETFONT, 0, 0), FALSE);
 }
 
@@ -115,10 +126,9 @@ void ControlView::setText(HWND window, const std::wstring& text) {
 
 void PanelView::create(DWORD style, HWND parent, int id, const ui::Control* state) {
   ControlView::create(panelClass(), style, WS_EX_CONTROLPARENT, parent, id, state);
-  SetPropW(window_, L"PellamPanel", this);
 }
 
-PanelView* PanelView::of(HWND window) { return static_cast<PanelView*>(GetPropW(window, L"PellamPanel")); }
+PanelView* PanelView::of(HWND window) { return dynamic_cast<PanelView*>(viewOf(window)); }
 
 void PanelView::paint(HDC dc) const {
   for (const ControlView* label : drawn_) label->paint(dc);

@@ -79,6 +79,7 @@ class PanelView : public ControlView {
   virtual void paint(HDC dc) const;
   // The panel of a window made by PanelView::create(), or nullptr.
   static PanelView* of(HWND window);
+  HFONT font = nullptr;  // handed on to the controls made in the panel
 
  protected:
   void create(DWORD style, HWND parent, int id, const ui::Control* state);

@@ -2,9 +2,12 @@
 // and one combo box, made in the same run, and reads the working set after every page of a
 // job was shown:
 //   pellam_form_bench paint RUNS        medians of RUNS of each, alternating
+//   pellam_form_bench marked RUNS       the same, each first paint between lines "mark form" or
+//                                       "mark bare" and "mark end" on the output
 //   pellam_form_bench memory JOB.zpd    working set before the form, after every page shown
 #include <algorithm>
 #include <chrono>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -42,7 +45,8 @@ double paintedAfter(HWND window, Clock::time_point start) {
   return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-double bareDialog() {
+double bareDialog(const std::function<void(const char*)>& mark) {
+  mark("mark bare");
   const auto start = Clock::now();
   HWND window = CreateWindowExW(WS_EX_CONTROLPARENT, L"#32770", L"bare", WS_OVERLAPPEDWINDOW, 0, 0, 1000, 700, nullptr,
                                 nullptr, nullptr, nullptr);
@@ -59,6 +63,7 @@ double bareDialog() {
   for (HWND w : {tabs, combo}) SendMessageW(w, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
   ShowWindow(window, SW_SHOW);
   const double ms = paintedAfter(window, start);
+  mark("mark end");
   DestroyWindow(window);
   DeleteObject(font);
   pump();
@@ -89,20 +94,26 @@ struct Host {
   VARIANT empty;
 };
 
-int paint(int runs) {
+// `marks` prints a line before and after each first paint, for a tracer to count what lies between.
+int paint(int runs, bool marks) {
   Host host;
   if (!host.o) return 1;
   host.o->Initailize_Pellam_Variables_And_Form(&host.empty);
   host.o->New_KX_Job_Display_Board_SetUp(&host.empty);
   std::vector<double> form, bare, loaded;
+  const std::function<void(const char*)> mark = [&](const char* line) {
+    if (marks) say(line);
+  };
   for (int run = 0; run < runs; ++run) {
+    mark("mark form");
     const auto start = Clock::now();
     host.o->Load_User_Form(&host.empty);
     loaded.push_back(std::chrono::duration<double, std::milli>(Clock::now() - start).count());
     form.push_back(paintedAfter(FindWindowW(L"PellamForm", nullptr), start));
+    mark("mark end");
     host.o->Unload_Pellam_Form(&host.empty);
     pump();
-    bare.push_back(bareDialog());
+    bare.push_back(bareDialog(mark));
   }
   say("Load_User_Form to first paint: median " + fixed(median(form)) + " ms; bare tab and combo window: median " +
       fixed(median(bare)) + " ms; ratio " + fixed(median(form) / median(bare)) + " (" + std::to_string(runs) + " runs each); the window made and drawn by the return of Load_User_Form: median " + fixed(median(loaded)) + " ms");
@@ -144,8 +155,8 @@ int memory(const std::wstring& job) {
 
 int wmain(int argc, wchar_t** argv) {
   const std::wstring mode = argc > 1 ? argv[1] : L"";
-  if (mode == L"paint") return paint(argc > 2 ? _wtoi(argv[2]) : 15);
+  if (mode == L"paint" || mode == L"marked") return paint(argc > 2 ? _wtoi(argv[2]) : 15, mode == L"marked");
   if (mode == L"memory" && argc == 3) return memory(argv[2]);
-  say("usage: pellam_form_bench paint [RUNS] | memory JOB.zpd");
+  say("usage: pellam_form_bench paint|marked [RUNS] | memory JOB.zpd");
   return 2;
 }

@@ -124,15 +124,31 @@ void open(Desk& desk, const std::string& zpd) {
   c.ReadZPD_ImageFile(path);
 }
 
-TEST(SaveAndOpen, EveryModeSurvivesAReopenAndSavesTheSameBytes) {
-  for (int mode = 1; mode <= 5; ++mode) {
+TEST(SaveAndOpen, EveryModeWritesItsOwnFilesAndSurvivesAReopen) {
+  // The files each mode writes beside its image.
+  const std::map<int, std::set<std::string>> besides = {
+      {1, {".txt"}},
+      {2, {".txt"}},
+      {3, {"UserData.txt", "LnkData.txt", "NetData.txt", "GrpRoom.txt", "Labels.txt"}},
+      {4, {"PreSetData.txt"}},
+      {5, {"LnkData.txt", "NetData.txt"}},
+  };
+  for (const auto& [mode, suffixes] : besides) {
     SCOPED_TRACE("mode " + std::to_string(mode));
     TempFolder first, second;
+    first.write("Lobby.zpd", std::string(40000, 'x'));  // a longer file is replaced whole
     Desk author;
     author.startUp();
     buildJob(author, mode);
     save(author, first.file("Lobby.txt"));
     EXPECT_TRUE(author.shown().empty());
+    EXPECT_EQ(author.session().currentJobFile, first.file("Lobby.zpd"));
+    EXPECT_EQ(author.form().Label144.caption(), first.file("Lobby.zpd"));
+    // The mode's list of its files is what Save As checks before it replaces any.
+    std::set<std::string> listed(component::operatingMode(mode)->fileSuffixes.begin(),
+                                 component::operatingMode(mode)->fileSuffixes.end());
+    if (mode == 3) listed.insert("Labels.txt");
+    EXPECT_EQ(listed, suffixes);
 
     Desk reader;
     reader.startUp();
@@ -141,6 +157,10 @@ TEST(SaveAndOpen, EveryModeSurvivesAReopenAndSavesTheSameBytes) {
     save(reader, second.file("Lobby.txt"));
 
     const auto written = folderContents(first.path());
+    std::set<std::string> names, expected = {"Lobby.zpd"};
+    for (const auto& [name, bytes] : written) names.insert(name);
+    for (const std::string& suffix : suffixes) expected.insert("Lobby" + suffix);
+    EXPECT_EQ(names, expected);
     EXPECT_EQ(firstDifference(written, folderContents(second.path())), "");
     EXPECT_EQ(written.at("Lobby.zpd").size(), 32767u);
     EXPECT_EQ(written.at("Lobby.zpd")[6101], 11);
@@ -155,37 +175,6 @@ TEST(SaveAndOpen, EveryModeSurvivesAReopenAndSavesTheSameBytes) {
     EXPECT_EQ(reader.form().ComboBox58.items(), mode == 3 ? Lines({"255: Stage"}) : Lines{});
     // The room-combine report is read from its file, not made again.
     EXPECT_EQ(reader.session().companionReport, mode == 3 ? written.at("LobbyUserData.txt") : "");
-  }
-}
-
-// A longer file of the job's name is replaced whole, not overwritten in part.
-TEST(SaveAndOpen, EachModeWritesItsOwnFiles) {
-  const std::map<int, std::set<std::string>> expected = {
-      {1, {"a.txt", "a.zpd"}},
-      {2, {"a.txt", "a.zpd"}},
-      {3, {"aUserData.txt", "aLnkData.txt", "aNetData.txt", "aGrpRoom.txt", "aLabels.txt", "a.zpd"}},
-      {4, {"aPreSetData.txt", "a.zpd"}},
-      {5, {"aLnkData.txt", "aNetData.txt", "a.zpd"}},
-  };
-  for (const auto& [mode, names] : expected) {
-    SCOPED_TRACE(mode);
-    TempFolder folder;
-    folder.write("a.zpd", std::string(40000, 'x'));
-    Desk desk;
-    desk.startUp();
-    buildJob(desk, mode);
-    save(desk, folder.file("a.txt"));
-    std::set<std::string> written;
-    for (const auto& [name, bytes] : folderContents(folder.path())) written.insert(name);
-    EXPECT_EQ(written, names);
-    EXPECT_EQ(fs::file_size(folder.path() / "a.zpd"), 32767u);
-    // The mode's list of its files is what Save As checks before it replaces any.
-    std::set<std::string> listed = {"a.zpd"};
-    for (const std::string& suffix : component::operatingMode(mode)->fileSuffixes) listed.insert("a" + suffix);
-    if (mode == 3) listed.insert("aLabels.txt");
-    EXPECT_EQ(listed, names);
-    EXPECT_EQ(desk.session().currentJobFile, folder.file("a.zpd"));
-    EXPECT_EQ(desk.form().Label144.caption(), folder.file("a.zpd"));
   }
 }
 

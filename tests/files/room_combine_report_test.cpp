@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <fstream>
-
 #include "component/job_files.h"
 #include "component/platform.h"
 #include "support/desk.h"

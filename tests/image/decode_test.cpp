@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <memory>
 #include <random>
-#include <utility>
 #include <vector>
 
 #include "image/decode.h"

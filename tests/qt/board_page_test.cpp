@@ -29,6 +29,7 @@ TEST(BoardPageWidgets, ConfirmingAModeShowsItsTabsAndTheSummary) {
 TEST(BoardPageWidgets, OptionButtonsFollowTheFormNotQtsGrouping) {
   FormDriver app;
   app.confirmBoard(2);
+  EXPECT_FALSE(app.widget("ComboBox55")->isVisible());
   app.click("OptionButton4");
   EXPECT_TRUE(app.as<QRadioButton>("OptionButton4")->isChecked());
   EXPECT_TRUE(app.widget("ComboBox55")->isVisible());
@@ -36,20 +37,6 @@ TEST(BoardPageWidgets, OptionButtonsFollowTheFormNotQtsGrouping) {
   EXPECT_FALSE(app.as<QRadioButton>("OptionButton4")->isChecked());
   EXPECT_TRUE(app.as<QRadioButton>("OptionButton6")->isChecked());
   EXPECT_EQ(app.form().OptionButton6.value(), true);
-}
-
-TEST(BoardPageWidgets, RefusalsComeAsRealMessageBoxes) {
-  FormDriver app;
-  // A slave without its id is refused when the board setup is confirmed.
-  app.choose("ComboBox48", 2);
-  app.choose("ComboBox1", 1);
-  app.choose("ComboBox2", 2);
-  app.choose("ComboBox6", 1);
-  EXPECT_TRUE(app.widget("ComboBox25")->isVisible());
-  app.click("CommandButton4");
-  ASSERT_EQ(app.boxes.seen.size(), 1u);
-  EXPECT_EQ(app.boxes.seen[0], "msgbox \"Slave ID not Selected\" -> OK");
-  EXPECT_FALSE(app.tabShown(1));
 }
 
 }  // namespace

@@ -44,6 +44,7 @@ TEST(FormScript, RefusesMistakesByNameWithTheLine) {
   const std::pair<std::string, std::string> cases[] = {
       {"frobnicate", "error: line 2: unknown command frobnicate\n"},
       {"call Save_Everything", "error: line 2: unknown member Save_Everything\n"},
+      {"select ComboBox100 1", "error: line 2: unknown control ComboBox100\n"},
       {"call Return_Dir_Path", "error: line 2: Return_Dir_Path takes 1 argument(s), not 0\n"},
       {"select ComboBox1 6", "error: line 2: index 6 is out of range for ComboBox1 (count 6)\n"},
       {"select ComboBox1 two", "error: line 2: bad index two\n"},

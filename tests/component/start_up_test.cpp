@@ -10,8 +10,7 @@ namespace {
 
 using testing::Desk;
 
-// Which control gets which list, and the lists' texts, are walked through in the start_up_lists
-// form script.
+// The lists that change with the board are walked through in the start_up_lists form script.
 std::map<std::string, std::pair<std::vector<std::string>, int>> snapshotLists(ui::UserForm1& form) {
   std::map<std::string, std::pair<std::vector<std::string>, int>> lists;
   for (const ui::Control* c : form.controls()) {
@@ -34,6 +33,53 @@ TEST(StartUp, ChoosesNothingAndRunningItTwiceGivesTheSameLists) {
   desk.form().ComboBox50.select(26);
   desk.startUp();
   EXPECT_EQ(snapshotLists(desk.form()), first);
+}
+
+// The fixed lists a person chooses from: how many items, and the items at their edges.
+TEST(StartUp, FillsEachFixedList) {
+  Desk desk;
+  desk.startUp();
+  const struct {
+    std::vector<const char*> controls;
+    int count, index;
+    const char* text;
+  } lists[] = {
+      {{"ComboBox1"}, 6, 2, "Room Link "},
+      {{"ComboBox2"}, 3, 2, "Slaved Station"},
+      {{"ComboBox48"}, 3, 1, "T3100 Room Combine Station"},
+      {{"ComboBox55"}, 201, 180, "180 Seconds"},
+      {{"ComboBox55"}, 201, 181, "1 Minute"},
+      {{"ComboBox55"}, 201, 200, "20 Minutes"},
+      {{"ComboBox27", "ComboBox49"}, 241, 240, "180 Minutes"},
+      {{"ComboBox27"}, 241, 1, "0 Seconds"},
+      {{"ComboBox27"}, 241, 2, "1 Seconds"},
+      {{"ComboBox27"}, 241, 61, "1 Minute"},
+      {{"ComboBox45"}, 2048, 2047, "Channel :2047"},
+      {{"ComboBox38"}, 2049, 2048, "2048"},
+      {{"ComboBox28"}, 101, 0, "0%"},
+      {{"ComboBox47"}, 101, 100, "100%"},
+      {{"ComboBox26", "ComboBox7", "ComboBox20", "ComboBox30", "ComboBox42", "ComboBox69"}, 17, 16, "Input 16"},
+      {{"ComboBox70"}, 17, 16, "16"},
+      {{"ComboBox33", "ComboBox8", "ComboBox9", "ComboBox22", "ComboBox23", "ComboBox31", "ComboBox32", "ComboBox36",
+        "ComboBox43"},
+       256, 255, "Room 255"},
+      {{"ComboBox37"}, 256, 255, "Group 255"},
+      {{"ComboBox34"}, 6, 3, "T6600 Slider"},
+      {{"ComboBox39"}, 6, 5, "Contact Closure"},
+      {{"ComboBox35", "ComboBox25", "ComboBox50"}, 128, 127, "127"},
+      {{"ComboBox41"}, 127, 0, "NetID 1"},
+      {{"ComboBox19"}, 127, 126, "NetID 127"},
+  };
+  for (const auto& list : lists) {
+    for (const char* name : list.controls) {
+      SCOPED_TRACE(name);
+      const auto* control = dynamic_cast<const ui::ListControl*>(desk.form().find(name));
+      ASSERT_NE(control, nullptr);
+      EXPECT_EQ(control->count(), list.count);
+      ASSERT_GT(control->count(), list.index);
+      EXPECT_EQ(control->items()[static_cast<std::size_t>(list.index)], list.text);
+    }
+  }
 }
 
 TEST(StartUp, EmptiesTheTablesAndTheImage) {

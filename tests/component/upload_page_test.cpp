@@ -152,9 +152,7 @@ TEST_F(UploadPageTest, AFaceWithAnEventLoopIsNeverHeldUp) {
   };
   std::vector<bool> results;
   page().onUploaded = [&](const UploadPage::Result& r) { results.push_back(r.completed); };
-  f.ComboBox50.select(9);
-  f.TextBox7.setText(address(controller));
-  f.CommandButton27.click();
+  component::upload(f, 9, address(controller));
   EXPECT_EQ(f.Label60.caption(), "Starting Up Load Please Wait");
   EXPECT_FALSE(f.CommandButton27.visible());
   f.CommandButton27.click();

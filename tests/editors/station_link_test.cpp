@@ -9,7 +9,7 @@
 #include "image/pack.h"
 #include "support/desk.h"
 
-// The page as a person walks it is in tests/scripts/station_link_job and station_job_open.
+// The page as a person walks it, and a job saved and opened again, are in tests/scripts/station_link_job.
 namespace pellam::editors::station_link {
 namespace {
 

@@ -11,6 +11,7 @@
 #include "files/command_text.h"
 #include "image/channel_emulation_block.h"
 #include "image/eeprom_image.h"
+#include "support/channel_slots.h"
 
 namespace pellam::files {
 namespace {
@@ -66,33 +67,24 @@ TEST(PresetInputText, BankAndInputNumberAtTheBankEdges) {
   }
 }
 
-void fill(job::ChannelEmulationRecord& r, int inputNumber, int fade, const std::vector<std::pair<int, int>>& slots) {
-  r.InputNumber = static_cast<std::int16_t>(inputNumber);
-  r.FadeRate = static_cast<std::int16_t>(fade);
-  for (std::size_t s = 0; s < slots.size(); ++s) {
-    r.Channels[s] = static_cast<std::int16_t>(slots[s].first);
-    r.Levels[s] = static_cast<std::int16_t>(slots[s].second);
-  }
-}
-
 // Action two (record 19, never in use) is not sent as input 3 of the second bank; a second-bank
 // input that an opened image held (record 32) is, with its block's setting as its fade.
 TEST(ChannelInputText, HandWrittenTexts) {
   auto table = std::make_unique<job::ChannelEmulationTable>();
-  std::vector<std::pair<int, int>> one, two;
+  testing::Slots one, two;
   for (int c = 1; c <= 10; ++c) {
     one.emplace_back(c, 75);
     two.emplace_back(c, 0);
   }
   one.insert(one.end(), {{-1, 40}, {20, 75}, {30, 50}});  // -1: a deleted channel
   two.insert(two.end(), {{-1, 40}, {20, 100}, {30, 0}});
-  fill(table->records[3], 3, 5, one);
-  fill(table->records[19], 0, 61, two);
+  table->records[3] = testing::channelRecord(3, 5, one);
+  table->records[19] = testing::channelRecord(0, 61, two);
   EXPECT_EQ(ChannelInputText(*table, 3), "\r\n\r\n\r\nP,1,I,3,F,5,\r\nL,75,C,1,2,3,4,5,6,7,8,9,10,20,\r\nL,50,C,30,:");
   EXPECT_EQ(ChannelInputText(*table, 19), "");
   EXPECT_EQ(ChannelInputText(*table, 4), "");
-  fill(table->records[16], 16, 1, {{2048, 100}});
-  fill(table->records[32], 32, 50, {{2048, 0}});
+  table->records[16] = testing::channelRecord(16, 1, {{2048, 100}});
+  table->records[32] = testing::channelRecord(32, 50, {{2048, 0}});
   table->records[32].Header6 = 4;
   EXPECT_EQ(ChannelInputText(*table, 16), "\r\n\r\n\r\nP,1,I,16,F,1,\r\nL,100,C,2048,:");
   EXPECT_EQ(ChannelInputText(*table, 32), "\r\n\r\n\r\nP,2,I,16,F,4,\r\nL,0,C,2048,:");

@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <fstream>
-
 #include "component/job_files.h"
 #include "component/platform.h"
 #include "support/desk.h"
@@ -13,11 +11,6 @@ using testing::Desk;
 using testing::TempFolder;
 using testing::readAll;
 
-void roomCombineJob(Desk& desk) {
-  desk.startUp();
-  desk.chooseBoard(3);
-}
-
 const std::string kHeader =
     "***********************************\r\n"
     "Date 11/23/2026\r\n"
@@ -27,10 +20,23 @@ const std::string kHeader =
     "Comma delimited Text file listing of room combine data\r\n";
 const std::string kDashes = "------------------------------------\r\n";
 
-TEST(RoomCombineReport, ListsByRoomThenByGroupThenTheTails) {
+class RoomCombineReport : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    desk.startUp();
+    desk.chooseBoard(3);
+  }
+  // Saves the job: the report the save wrote beside it.
+  std::string report() {
+    std::string path = folder.file("a.txt");
+    desk.class1().Create_Pellam_Zpd(path);
+    return readAll(folder.file("aUserData.txt"));
+  }
   Desk desk;
   TempFolder folder;
-  roomCombineJob(desk);
+};
+
+TEST_F(RoomCombineReport, ListsByRoomThenByGroupThenTheTails) {
   auto& combine = desk.job().roomCombine.records;
   combine[12] = {12, 3, 5, 0};
   combine[7] = {7, 4, 5, 0};
@@ -38,10 +44,7 @@ TEST(RoomCombineReport, ListsByRoomThenByGroupThenTheTails) {
   combine[2048] = {2048, 3, 5, 0};  // never in the body: the scans stop at 2047
   desk.form().ListBox2.setItems({"Input:3, Links Rooms, 2,and,5"});
   desk.form().ListBox3.setItems({"Room: 4 T6600 LCD  NetId: 21", "Room: 5 Wallport  NetId: 30"});
-  std::string path = folder.file("a.txt");
-  desk.class1().Create_Pellam_Zpd(path);
-
-  EXPECT_EQ(readAll(folder.file("aUserData.txt")),
+  EXPECT_EQ(report(),
             kHeader +
                 // rooms outer
                 kDashes + "\r\n    ####Room 2 #####\r\n\r\n" + "Room 2,  Group 3, Channel:30\r\n" + kDashes + "\r\n" +
@@ -59,34 +62,23 @@ TEST(RoomCombineReport, ListsByRoomThenByGroupThenTheTails) {
   EXPECT_TRUE(desk.shown().empty());
 }
 
-TEST(RoomCombineReport, AnEmptyJobHasTheHeaderAndBothTails) {
-  Desk desk;
-  TempFolder folder;
-  roomCombineJob(desk);
-  std::string path = folder.file("a.txt");
-  desk.class1().Create_Pellam_Zpd(path);
-  EXPECT_EQ(readAll(folder.file("aUserData.txt")),
-            kHeader + "\r\n\r\n****Room Links****\r\n\r\n" + "\r\n\r\n**Station Locations**\r\n\r\n");
+TEST_F(RoomCombineReport, AnEmptyJobHasTheHeaderAndBothTails) {
+  EXPECT_EQ(report(), kHeader + "\r\n\r\n****Room Links****\r\n\r\n" + "\r\n\r\n**Station Locations**\r\n\r\n");
 }
 
 // Room and group 255 are never cleared from the in-use tables: once listed, their headings
 // stay in later reports of the session.
-TEST(RoomCombineReport, RoomAndGroup255StayInUse) {
-  Desk desk;
-  TempFolder folder;
-  roomCombineJob(desk);
+TEST_F(RoomCombineReport, RoomAndGroup255StayInUse) {
   desk.job().roomCombine.records[9] = {9, 255, 255, 0};
-  std::string path = folder.file("a.txt");
-  desk.class1().Create_Pellam_Zpd(path);
+  report();
   desk.job().roomCombine.records[9] = {};
-  desk.class1().Create_Pellam_Zpd(path);
-  EXPECT_EQ(readAll(folder.file("aUserData.txt")),
+  EXPECT_EQ(report(),
             kHeader + kDashes + "\r\n    ####Room 255 #####\r\n\r\n" + kDashes + "\r\n" + kDashes +
                 "\r\n    #### Group 255 #####\r\n\r\n" + kDashes + "\r\n" + "\r\n\r\n****Room Links****\r\n\r\n" +
                 "\r\n\r\n**Station Locations**\r\n\r\n");
 }
 
-TEST(RoomCombineReport, SaysSoWhenNoViewerStarts) {
+TEST(RoomCombineReportViewer, SaysSoWhenNoViewerStarts) {
   std::ostringstream log;
   component::UnattendedDialogs dialogs(log);
   component::NoViewer shell;

@@ -124,15 +124,31 @@ void open(Desk& desk, const std::string& zpd) {
   c.ReadZPD_ImageFile(path);
 }
 
-TEST(SaveAndOpen, EveryModeSurvivesAReopenAndSavesTheSameBytes) {
-  for (int mode = 1; mode <= 5; ++mode) {
+TEST(SaveAndOpen, EveryModeWritesItsOwnFilesAndSurvivesAReopen) {
+  // The files each mode writes beside its image.
+  const std::map<int, std::set<std::string>> besides = {
+      {1, {".txt"}},
+      {2, {".txt"}},
+      {3, {"UserData.txt", "LnkData.txt", "NetData.txt", "GrpRoom.txt", "Labels.txt"}},
+      {4, {"PreSetData.txt"}},
+      {5, {"LnkData.txt", "NetData.txt"}},
+  };
+  for (const auto& [mode, suffixes] : besides) {
     SCOPED_TRACE("mode " + std::to_string(mode));
     TempFolder first, second;
+    first.write("Lobby.zpd", std::string(40000, 'x'));  // a longer file is replaced whole
     Desk author;
     author.startUp();
     buildJob(author, mode);
     save(author, first.file("Lobby.txt"));
     EXPECT_TRUE(author.shown().empty());
+    EXPECT_EQ(author.session().currentJobFile, first.file("Lobby.zpd"));
+    EXPECT_EQ(author.form().Label144.caption(), first.file("Lobby.zpd"));
+    // The mode's list of its files is what Save As checks before it replaces any.
+    std::set<std::string> listed(component::operatingMode(mode)->fileSuffixes.begin(),
+                                 component::operatingMode(mode)->fileSuffixes.end());
+    if (mode == 3) listed.insert("Labels.txt");
+    EXPECT_EQ(listed, suffixes);
 
     Desk reader;
     reader.startUp();
@@ -141,6 +157,10 @@ TEST(SaveAndOpen, EveryModeSurvivesAReopenAndSavesTheSameBytes) {
     save(reader, second.file("Lobby.txt"));
 
     const auto written = folderContents(first.path());
+    std::set<std::string> names, expected = {"Lobby.zpd"};
+    for (const auto& [name, bytes] : written) names.insert(name);
+    for (const std::string& suffix : suffixes) expected.insert("Lobby" + suffix);
+    EXPECT_EQ(names, expected);
     EXPECT_EQ(firstDifference(written, folderContents(second.path())), "");
     EXPECT_EQ(written.at("Lobby.zpd").size(), 32767u);
     EXPECT_EQ(written.at("Lobby.zpd")[6101], 11);
@@ -153,58 +173,37 @@ TEST(SaveAndOpen, EveryModeSurvivesAReopenAndSavesTheSameBytes) {
     EXPECT_TRUE(modePage[mode]->visible());
     EXPECT_EQ(reader.form().ListBox12.items(), mode == 3 ? Lines({"4: Lobby", "255: Ballroom"}) : Lines{});
     EXPECT_EQ(reader.form().ComboBox58.items(), mode == 3 ? Lines({"255: Stage"}) : Lines{});
+    // The room-combine report is read from its file, not made again.
+    EXPECT_EQ(reader.session().companionReport, mode == 3 ? written.at("LobbyUserData.txt") : "");
   }
 }
 
-TEST(SaveAndOpen, EachModeWritesItsOwnFiles) {
-  const std::map<int, std::set<std::string>> expected = {
-      {1, {"a.txt", "a.zpd"}},
-      {2, {"a.txt", "a.zpd"}},
-      {3, {"aUserData.txt", "aLnkData.txt", "aNetData.txt", "aGrpRoom.txt", "aLabels.txt", "a.zpd"}},
-      {4, {"aPreSetData.txt", "a.zpd"}},
-      {5, {"aLnkData.txt", "aNetData.txt", "a.zpd"}},
-  };
-  for (const auto& [mode, names] : expected) {
-    SCOPED_TRACE(mode);
-    TempFolder folder;
-    Desk desk;
-    desk.startUp();
-    buildJob(desk, mode);
-    save(desk, folder.file("a.txt"));
-    std::set<std::string> written;
-    for (const auto& [name, bytes] : folderContents(folder.path())) written.insert(name);
-    EXPECT_EQ(written, names);
-    // The mode's list of its files is what Save As checks before it replaces any.
-    std::set<std::string> listed = {"a.zpd"};
-    for (const std::string& suffix : component::operatingMode(mode)->fileSuffixes) listed.insert("a" + suffix);
-    if (mode == 3) listed.insert("aLabels.txt");
-    EXPECT_EQ(listed, names);
-    EXPECT_EQ(desk.session().currentJobFile, folder.file("a.zpd"));
-    EXPECT_EQ(desk.form().Label144.caption(), folder.file("a.zpd"));
-  }
-}
-
-TEST(SaveAndOpen, AnEmptyTableWritesOnlyTheFileEnd) {
-  TempFolder folder;
-  Desk desk;
-  desk.startUp();
-  desk.form().ComboBox1.select(2);
-  save(desk, folder.file("a.txt"));
-  EXPECT_EQ(readAll(folder.path() / "a.txt"), "\r\n\r\n");
-}
-
-class SaveRefusals : public ::testing::Test {
+// One person saves a job, another opens it.
+class SaveOpen : public ::testing::Test {
  protected:
   void SetUp() override {
-    desk.startUp();
-    buildJob(desk, 5);
+    author.startUp();
+    reader.startUp();
   }
-  Desk desk;
+  // The author's job of `mode`, saved as NAME.txt: its image.
+  std::string saved(int mode, const std::string& name = "a") {
+    buildJob(author, mode);
+    save(author, folder.file(name + ".txt"));
+    return folder.file(name + ".zpd");
+  }
+  Desk author, reader;
   TempFolder folder;
 };
 
+TEST_F(SaveOpen, AnEmptyTableWritesOnlyTheFileEnd) {
+  author.form().ComboBox1.select(2);
+  save(author, folder.file("a.txt"));
+  EXPECT_EQ(readAll(folder.path() / "a.txt"), "\r\n\r\n");
+}
+
 // Whatever stops a save, the old job stays whole and nothing of the new one is left.
-TEST_F(SaveRefusals, AFailedSaveLeavesTheOldJobAsItWas) {
+TEST_F(SaveOpen, AFailedSaveLeavesTheOldJobAsItWas) {
+  buildJob(author, 5);
   struct Case {
     const char* obstacle;
     std::function<void(const fs::path&)> make;
@@ -225,18 +224,17 @@ TEST_F(SaveRefusals, AFailedSaveLeavesTheOldJobAsItWas) {
     folder.write("aLnkData.txt", "old links");
     c.make(folder.path() / c.obstacle);
     const auto before = folderContents(folder.path());
-    save(desk, folder.file("a.txt"));
-    EXPECT_EQ(desk.shown(), Lines{okBox(c.message + folder.file("aNetData.txt"))});
+    save(author, folder.file("a.txt"));
+    EXPECT_EQ(author.shown(), Lines{okBox(c.message + folder.file("aNetData.txt"))});
     EXPECT_EQ(firstDifference(folderContents(folder.path()), before), "");
   }
 }
 
 // A save killed at any moment is finished or undone when the job is next opened: the files
 // left on the disk in the middle of a save are laid out here by hand.
-TEST_F(SaveRefusals, AnInterruptedSaveIsFinishedOrUndoneWhenTheJobIsNextOpened) {
-  TempFolder saved;
-  save(desk, saved.file("a.txt"));
-  const auto fresh = folderContents(saved.path());
+TEST_F(SaveOpen, AnInterruptedSaveIsFinishedOrUndoneWhenTheJobIsNextOpened) {
+  saved(5);
+  const auto fresh = folderContents(folder.path());
   struct Case {
     const char* record;
     std::map<std::string, std::string> files;  // besides the record
@@ -272,9 +270,9 @@ TEST_F(SaveRefusals, AnInterruptedSaveIsFinishedOrUndoneWhenTheJobIsNextOpened) 
     folder.write("a.pellam-save.pellam-new", "a record never finished");
     for (const auto& [name, bytes] : c.files) folder.write(name, bytes);
     std::string path = folder.file("a.zpd");
-    desk.answer(ui::Answer::No);
-    desk.class1().Product_Type(path);
-    desk.shown();
+    reader.answer(ui::Answer::No);
+    reader.class1().Product_Type(path);
+    reader.shown();
     auto expected = c.finished ? fresh : std::map<std::string, std::string>{{"aLnkData.txt", "old links"}, {"aNetData.txt", "old stations"}};
     if (!c.finished && c.files.count("a.zpd") && c.files.at("a.zpd") == "old") expected["a.zpd"] = "old";
     EXPECT_EQ(firstDifference(folderContents(folder.path()), expected), "");
@@ -282,70 +280,55 @@ TEST_F(SaveRefusals, AnInterruptedSaveIsFinishedOrUndoneWhenTheJobIsNextOpened) 
 }
 
 // A refused save takes away the folders it made, even a path too long for the system.
-TEST_F(SaveRefusals, NoFolderIsLeftBehind) {
+TEST_F(SaveOpen, NoFolderIsLeftBehind) {
+  buildJob(author, 5);
   std::string deep = folder.path().string();
   for (int level = 0; level < 20; ++level) deep += "/" + std::string(250, 'd');
-  desk.answer(ui::Answer::Yes);
-  save(desk, deep + "/a.txt");
-  desk.answer(ui::Answer::Yes);
-  save(desk, folder.file("made/a.doc"));
-  EXPECT_EQ(desk.shown(), (Lines{"msgbox \"Folder not Found! Create Folder?\" YesNo -> Yes", okBox("Directory Not Found"),
-                                 "msgbox \"Folder not Found! Create Folder?\" YesNo -> Yes",
-                                 okBox("File extension must be .txt")}));
+  author.answer(ui::Answer::Yes);
+  save(author, deep + "/a.txt");
+  author.answer(ui::Answer::Yes);
+  save(author, folder.file("made/a.doc"));
+  EXPECT_EQ(author.shown(), (Lines{"msgbox \"Folder not Found! Create Folder?\" YesNo -> Yes", okBox("Directory Not Found"),
+                                   "msgbox \"Folder not Found! Create Folder?\" YesNo -> Yes",
+                                   okBox("File extension must be .txt")}));
   EXPECT_TRUE(fs::is_empty(folder.path()));
 }
 
-TEST_F(SaveRefusals, ALongerOldFileIsReplacedWhole) {
-  folder.write("a.zpd", std::string(40000, 'x'));
-  save(desk, folder.file("a.txt"));
-  EXPECT_EQ(fs::file_size(folder.path() / "a.zpd"), 32767u);
-}
-
-class Opening : public ::testing::Test {
- protected:
-  void SetUp() override { desk.startUp(); }
-  Desk desk;
-  TempFolder folder;
-};
-
-TEST_F(Opening, AShortFileLeavesTheRestZeroAndALongOneIsCut) {
+TEST_F(SaveOpen, AShortFileLeavesTheRestZeroAndALongOneIsCut) {
   std::string shortImage(6200, '\0');
   shortImage[6100] = 2;
   shortImage[6101] = 11;
   shortImage[5] = 9;
-  open(desk, folder.write("short.zpd", shortImage));
-  EXPECT_EQ(desk.session().image.at(5), 9);
-  EXPECT_EQ(desk.session().image.at(6400), 0);
-  EXPECT_EQ(desk.job().board.HardwareType, 2);
+  open(reader, folder.write("short.zpd", shortImage));
+  EXPECT_EQ(reader.session().image.at(5), 9);
+  EXPECT_EQ(reader.session().image.at(6400), 0);
+  EXPECT_EQ(reader.job().board.HardwareType, 2);
 
   std::string longImage(40000, '\x07');
   longImage[6101] = 11;
-  open(desk, folder.write("long.zpd", longImage));
-  EXPECT_EQ(desk.session().image.at(32766), 7);
-  EXPECT_EQ(desk.session().image.at(32767), 0) << "only 32,767 bytes are read";
+  open(reader, folder.write("long.zpd", longImage));
+  EXPECT_EQ(reader.session().image.at(32766), 7);
+  EXPECT_EQ(reader.session().image.at(32767), 0) << "only 32,767 bytes are read";
 }
 
-TEST_F(Opening, AnEmptyOrMissingFileIsRefusedAndChangesNothing) {
-  desk.session().image.put(6400, 4);
-  desk.job().roomLink.records[3].LinkInput = 4;
+TEST_F(SaveOpen, AnEmptyOrMissingFileIsRefusedAndChangesNothing) {
+  reader.session().image.put(6400, 4);
+  reader.job().roomLink.records[3].LinkInput = 4;
   std::string missing = folder.file("missing.zpd");
-  desk.class1().ReadZPD_ImageFile(missing);
-  EXPECT_EQ(desk.shown(), Lines{okBox("Cannot Open File: " + missing)});
-  EXPECT_EQ(desk.session().image.at(6400), 4);
-  EXPECT_EQ(desk.job().roomLink.records[3].LinkInput, 4);
+  reader.class1().ReadZPD_ImageFile(missing);
+  EXPECT_EQ(reader.shown(), Lines{okBox("Cannot Open File: " + missing)});
+  EXPECT_EQ(reader.session().image.at(6400), 4);
+  EXPECT_EQ(reader.job().roomLink.records[3].LinkInput, 4);
 
   std::string empty = folder.write("empty.zpd", "");
-  desk.answer(ui::Answer::No);
-  EXPECT_EQ(desk.class1().Product_Type(empty), -1);
-  EXPECT_EQ(desk.job().roomLink.records[3].LinkInput, 4) << "a foreign file answered No leaves the tables";
+  reader.answer(ui::Answer::No);
+  EXPECT_EQ(reader.class1().Product_Type(empty), -1);
+  EXPECT_EQ(reader.job().roomLink.records[3].LinkInput, 4) << "a foreign file answered No leaves the tables";
 }
 
 // Only an image this program saved, under the name its save gives, is saved again in place.
-TEST_F(Opening, OnlyAJobImageOfOursBecomesTheSaveTarget) {
-  Desk author;
-  author.startUp();
-  buildJob(author, 2);
-  save(author, folder.file("Hall.txt"));
+TEST_F(SaveOpen, OnlyAJobImageOfOursBecomesTheSaveTarget) {
+  saved(2, "Hall");
   EXPECT_EQ(author.session().saveTarget, folder.file("Hall.txt"));
   fs::copy_file(folder.path() / "Hall.zpd", folder.path() / "Hall.v2.zpd");
   folder.write("Lobby.txt", "P,1,I,1,notes of another program\r\n");
@@ -353,58 +336,35 @@ TEST_F(Opening, OnlyAJobImageOfOursBecomesTheSaveTarget) {
       {"Hall.zpd", folder.file("Hall.txt")}, {"Lobby.txt", ""}, {"Hall.v2.zpd", ""}};
   for (const auto& [file, target] : cases) {
     SCOPED_TRACE(file);
-    desk.answer(ui::Answer::Yes);
-    open(desk, folder.file(file));
-    desk.shown();
-    EXPECT_EQ(desk.session().saveTarget, target);
+    reader.answer(ui::Answer::Yes);
+    open(reader, folder.file(file));
+    reader.shown();
+    EXPECT_EQ(reader.session().saveTarget, target);
   }
-  desk.startUp();
-  EXPECT_EQ(desk.session().saveTarget, "") << "a new job has none";
+  reader.startUp();
+  EXPECT_EQ(reader.session().saveTarget, "") << "a new job has none";
 }
 
 // Labels written by a save are read back; a job without labels leaves no file of them, and a
 // damaged line is named while the others are kept.
-TEST_F(Opening, LabelsComeBackAndNoLabelsLeaveNoFile) {
-  folder.write("aLabels.txt", "room\t4\tLobby\r\ngroup\t300\tToo far\r\nname\t4\t7\tFront\n");
-  Desk author;
-  author.startUp();
-  buildJob(author, 2);
-  save(author, folder.file("a.txt"));
+TEST_F(SaveOpen, LabelsComeBackAndNoLabelsLeaveNoFile) {
+  const std::string labels = "room\t4\tLobby\r\ngroup\t300\tToo far\r\nname\t4\t7\tFront\n";
+  folder.write("aLabels.txt", labels);
+  const std::string zpd = saved(2);
   EXPECT_FALSE(fs::exists(folder.path() / "aLabels.txt")) << "an old labels file goes with the save";
 
-  folder.write("aLabels.txt", "room\t4\tLobby\r\ngroup\t300\tToo far\r\nname\t4\t7\tFront\n");
-  open(desk, folder.file("a.zpd"));
-  EXPECT_EQ(desk.shown(), Lines{okBox("Labels Not Read: " + folder.file("aLabels.txt") + " Line 2")});
-  const job::RoomGroupName& room = desk.job().roomGroupNames.names[4];
+  folder.write("aLabels.txt", labels);
+  open(reader, zpd);
+  EXPECT_EQ(reader.shown(), Lines{okBox("Labels Not Read: " + folder.file("aLabels.txt") + " Line 2")});
+  const job::RoomGroupName& room = reader.job().roomGroupNames.names[4];
   EXPECT_EQ(std::tie(room.RoomLabel, room.RoomName, room.RoomValue), std::make_tuple("Lobby", "Front", 7));
-  EXPECT_EQ(desk.form().ListBox12.items(), Lines{"4: Lobby"});
+  EXPECT_EQ(reader.form().ListBox12.items(), Lines{"4: Lobby"});
   fs::remove(folder.path() / "aLabels.txt");
-  open(desk, folder.file("a.zpd"));
-  EXPECT_EQ(desk.form().ListBox12.count(), 0) << "an opened job keeps no label of the last one";
+  open(reader, zpd);
+  EXPECT_EQ(reader.form().ListBox12.count(), 0) << "an opened job keeps no label of the last one";
 }
 
-TEST_F(Opening, AModeThreeJobReadsItsReport) {
-  Desk author;
-  author.startUp();
-  buildJob(author, 3);
-  save(author, folder.file("a.txt"));
-  folder.write("aUserData.txt", "report text");
-  open(desk, folder.file("a.zpd"));
-  EXPECT_EQ(desk.session().companionReport, "report text");
-}
-
-// Faults found in review, each kept from coming back.
-class SaveAndOpenEdges : public ::testing::Test {
- protected:
-  void SetUp() override {
-    author.startUp();
-    reader.startUp();
-  }
-  Desk author, reader;
-  TempFolder folder;
-};
-
-TEST_F(SaveAndOpenEdges, StationsOnNumberedRoomsSurviveAndNumberingAddsNone) {
+TEST_F(SaveOpen, StationsOnNumberedRoomsSurviveAndNumberingAddsNone) {
   buildJob(author, 5);
   for (std::int16_t i = 1; i <= 16; ++i) author.job().inputNumbering.records[static_cast<std::size_t>(i)] = {i, i};
   author.job().stationLink.records[2] = {2, 9, 6, 0};
@@ -420,7 +380,7 @@ TEST_F(SaveAndOpenEdges, StationsOnNumberedRoomsSurviveAndNumberingAddsNone) {
   EXPECT_EQ(reader.job().inputNumbering.records[5].RoomNumber, 5);
 }
 
-TEST_F(SaveAndOpenEdges, TheInputActionOffsetIsAFixedPoint) {
+TEST_F(SaveOpen, TheInputActionOffsetIsAFixedPoint) {
   buildJob(author, 1);
   author.job().masterInputs.Mode = 1;
   author.job().masterInputs.Companion = 2;
@@ -441,7 +401,7 @@ TEST_F(SaveAndOpenEdges, TheInputActionOffsetIsAFixedPoint) {
   EXPECT_TRUE(author.shown().empty());
 }
 
-TEST_F(SaveAndOpenEdges, AnInputThatCannotBeStoredIsNamedAndTheOthersAreKept) {
+TEST_F(SaveOpen, AnInputThatCannotBeStoredIsNamedAndTheOthersAreKept) {
   buildJob(author, 1);
   auto& crowded = author.job().channelEmulation.records[2];
   for (std::size_t s = 0; s < 150; ++s) {
@@ -457,10 +417,8 @@ TEST_F(SaveAndOpenEdges, AnInputThatCannotBeStoredIsNamedAndTheOthersAreKept) {
 
 // A board image whose second bank holds inputs 19 and 20 keeps them through an open and a save,
 // while the action two that the job gives input 3 is never written.
-TEST_F(SaveAndOpenEdges, SecondBankInputsOfAnImageAreKeptAndActionTwoIsNotWritten) {
-  buildJob(author, 1);
-  save(author, folder.file("a.txt"));
-  std::string image = readAll(folder.path() / "a.zpd");
+TEST_F(SaveOpen, SecondBankInputsOfAnImageAreKeptAndActionTwoIsNotWritten) {
+  std::string image = readAll(saved(1));
   EXPECT_EQ(image.substr(20900, 300), std::string(300, '\0')) << "action two of input 3";
   EXPECT_EQ(readAll(folder.path() / "a.txt").find("P,2"), std::string::npos);
 
@@ -478,7 +436,7 @@ TEST_F(SaveAndOpenEdges, SecondBankInputsOfAnImageAreKeptAndActionTwoIsNotWritte
   EXPECT_TRUE(reader.shown().empty());
 }
 
-TEST_F(SaveAndOpenEdges, ALargeTimerAndTheScanBytesComeBackWhole) {
+TEST_F(SaveOpen, ALargeTimerAndTheScanBytesComeBackWhole) {
   buildJob(author, 3);
   author.job().board.RefreshRate = 65535;
   save(author, folder.file("a.txt"));
@@ -488,9 +446,7 @@ TEST_F(SaveAndOpenEdges, ALargeTimerAndTheScanBytesComeBackWhole) {
   EXPECT_EQ(reader.form().ComboBox55.listIndex(), -1) << "no list item says 3277 seconds";
   EXPECT_EQ(reader.job().board.FurtherOption, 9);
 
-  buildJob(author, 2);
-  save(author, folder.file("b.txt"));
-  open(reader, folder.file("b.zpd"));
+  open(reader, saved(2, "b"));
   EXPECT_EQ(reader.job().board.FurtherOption, 0) << "nothing is left over from the job before";
 }
 

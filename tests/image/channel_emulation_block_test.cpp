@@ -9,37 +9,22 @@
 
 #include "image/channel_emulation_block.h"
 #include "job/runtime_error.h"
+#include "support/channel_slots.h"
 #include "support/desk.h"
 
 namespace pellam::image {
 namespace {
 
 using testing::bytesAt;
-
-using Slot = std::pair<int, int>;  // channel (0 never used, -1 deleted), level
+using testing::liveSlots;
 using Record = job::ChannelEmulationRecord;
+using Slot = std::pair<int, int>;
 
 constexpr int kInput = 3;
 constexpr int kBase = map::blockBase(kInput);
 constexpr std::uint8_t kSentinel = 0xEE;
 
-Record recordOf(int fade, const std::vector<Slot>& slots) {
-  Record r;
-  r.FadeRate = static_cast<std::int16_t>(fade);
-  for (std::size_t s = 0; s < slots.size(); ++s) {
-    r.Channels[s] = static_cast<std::int16_t>(slots[s].first);
-    r.Levels[s] = static_cast<std::int16_t>(slots[s].second);
-  }
-  return r;
-}
-
-std::vector<Slot> liveSlots(const Record& r) {
-  std::vector<Slot> live;
-  for (std::size_t s = 0; s < r.Channels.size(); ++s) {
-    if (r.Channels[s] > 0) live.emplace_back(r.Channels[s], r.Levels[s]);
-  }
-  return live;
-}
+Record recordOf(int fade, const testing::Slots& slots) { return testing::channelRecord(0, fade, slots); }
 
 // Every byte outside [first, first + 300) still holds the sentinel.
 bool onlyBlockTouched(const EepromImage& image, int first) {
@@ -58,7 +43,7 @@ class ChannelBlock : public ::testing::Test {
 TEST_F(ChannelBlock, GroupsFollowSlotOrderAndSkipHoles) {
   struct Case {
     const char* name;
-    std::vector<Slot> slots;
+    testing::Slots slots;
     std::vector<int> expected;
   };
   const Case cases[] = {
@@ -81,7 +66,7 @@ TEST_F(ChannelBlock, ManyShapesComeBackAsPacked) {
   auto pick = [&](int lo, int hi) { return std::uniform_int_distribution<int>(lo, hi)(rng); };
   int packed = 0;
   for (int round = 0; round < 400; ++round) {
-    std::vector<Slot> slots;
+    testing::Slots slots;
     std::set<int> taken;
     const int levels[] = {0, 25, 50, 75, 100, pick(0, 100)};
     while (slots.size() < 280 && taken.size() < 150 && pick(0, 30) != 0) {
@@ -112,7 +97,7 @@ TEST_F(ChannelBlock, ManyShapesComeBackAsPacked) {
 }
 
 TEST_F(ChannelBlock, ScatteredChannelsAtAlternatingLevelsDoNotFit) {
-  std::vector<Slot> slots;
+  testing::Slots slots;
   for (int i = 0; i < 150; ++i) slots.emplace_back(2 * i + 1, i % 2 == 0 ? 10 : 20);
   const Record r = recordOf(3, slots);
   EXPECT_THROW(PackChannelBlock(*image, kInput, r), job::RuntimeError);
@@ -129,7 +114,7 @@ TEST_F(ChannelBlock, ScatteredChannelsAtAlternatingLevelsDoNotFit) {
 }
 
 TEST_F(ChannelBlock, OneHundredFiftyChannelsAsRangesFit) {
-  std::vector<Slot> slots;
+  testing::Slots slots;
   for (int range = 0; range < 15; ++range) {
     for (int c = 1; c <= 10; ++c) slots.emplace_back(20 * range + c, range % 2 == 0 ? 10 : 20);
   }
@@ -149,9 +134,9 @@ TEST_F(ChannelBlock, DecodingCraftedGarbageStaysInTheBlock) {
   struct Case {
     const char* name;
     std::vector<int> block;
-    std::vector<Slot> expected;
+    testing::Slots expected;
   };
-  std::vector<Slot> firstHundredFifty;
+  testing::Slots firstHundredFifty;
   for (int c = 1; c <= 150; ++c) firstHundredFifty.emplace_back(c, 80);
   const Case cases[] = {
       {"a count of 0 at +2 is an unused input", {7, 0, 0, 1, 50, 0, 9}, {}},

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <memory>
 #include <random>
-#include <utility>
 #include <vector>
 
 #include "image/decode.h"
 #include "image/pack.h"
+#include "support/channel_slots.h"
 
 namespace pellam::image {
 namespace {
@@ -88,15 +88,8 @@ TEST(DecodeChannelEmulation, SecondBankBlocksAreInputsOfTheirOwn) {
   table->records[19].FadeRate = table->records[20].FadeRate = 12;  // left from the job before
   DecodeChannelEmulation(*image, *table);
 
-  using Slots = std::vector<std::pair<int, int>>;
-  const auto live = [&](int k) {
-    Slots slots;
-    const job::ChannelEmulationRecord& r = table->records[static_cast<std::size_t>(k)];
-    for (std::size_t s = 0; s < r.Channels.size(); ++s) {
-      if (r.Channels[s] > 0) slots.emplace_back(r.Channels[s], r.Levels[s]);
-    }
-    return slots;
-  };
+  using testing::Slots;
+  const auto live = [&](int k) { return testing::liveSlots(table->records[static_cast<std::size_t>(k)]); };
   const job::ChannelEmulationRecord &three = table->records[3], &nineteen = table->records[19],
                                     &twenty = table->records[20];
   EXPECT_EQ(three.FadeRate, 5);

@@ -1,5 +1,3 @@
-#include <QComboBox>
-#include <QListWidget>
 #include <QRadioButton>
 #include <gmock/gmock.h>
 
@@ -8,7 +6,6 @@
 namespace pellam::qt::testing {
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 TEST(BoardPageWidgets, ConfirmingAModeShowsItsTabsAndTheSummary) {
@@ -32,6 +29,7 @@ TEST(BoardPageWidgets, ConfirmingAModeShowsItsTabsAndTheSummary) {
 TEST(BoardPageWidgets, OptionButtonsFollowTheFormNotQtsGrouping) {
   FormDriver app;
   app.confirmBoard(2);
+  EXPECT_FALSE(app.widget("ComboBox55")->isVisible());
   app.click("OptionButton4");
   EXPECT_TRUE(app.as<QRadioButton>("OptionButton4")->isChecked());
   EXPECT_TRUE(app.widget("ComboBox55")->isVisible());
@@ -39,42 +37,6 @@ TEST(BoardPageWidgets, OptionButtonsFollowTheFormNotQtsGrouping) {
   EXPECT_FALSE(app.as<QRadioButton>("OptionButton4")->isChecked());
   EXPECT_TRUE(app.as<QRadioButton>("OptionButton6")->isChecked());
   EXPECT_EQ(app.form().OptionButton6.value(), true);
-}
-
-TEST(BoardPageWidgets, RefusalsComeAsRealMessageBoxes) {
-  FormDriver app;
-  // A slave without its id is refused when the board setup is confirmed.
-  app.choose("ComboBox48", 2);
-  app.choose("ComboBox1", 1);
-  app.choose("ComboBox2", 2);
-  app.choose("ComboBox6", 1);
-  EXPECT_TRUE(app.widget("ComboBox25")->isVisible());
-  app.click("CommandButton4");
-  ASSERT_EQ(app.boxes.seen.size(), 1u);
-  EXPECT_EQ(app.boxes.seen[0], "msgbox \"Slave ID not Selected\" -> OK");
-  EXPECT_FALSE(app.tabShown(1));
-}
-
-TEST(FilesFrameWidgets, SavesListsAndOpensAJob) {
-  FormDriver app;
-  app.confirmBoard(2);
-  app.type("TextBox101", QString::fromStdString((app.folder / "Lobby.txt").string()));
-  app.click("CommandButton26");
-  EXPECT_TRUE(std::filesystem::exists(app.folder / "Lobby.zpd"));
-  app.type("TextBox102", QString::fromStdString(app.folder.string()));
-  app.click("CommandButton101");
-  EXPECT_THAT(app.lines("ListBox11"), ElementsAre("Lobby.zpd"));
-
-  // Another mode, then the saved job back from the list, the change discarded.
-  app.choose("ComboBox1", 4);
-  app.click("CommandButton4");
-  app.clickLine("ListBox11", 0);
-  app.boxes.queue(QMessageBox::Discard);
-  app.click("CommandButton102");
-  EXPECT_THAT(app.boxes.seen, ElementsAre("msgbox \"Save the changes to this job?\" -> Discard"));
-  EXPECT_EQ(app.shownText("ComboBox1"), "Room Link ");
-  EXPECT_TRUE(app.tabShown(2));
-  EXPECT_FALSE(app.tabShown(4));
 }
 
 }  // namespace

@@ -18,7 +18,6 @@
 #include <QTabWidget>
 #include <QTest>
 #include <gtest/gtest.h>
-#include <random>
 
 #include "form_view.h"
 
@@ -68,9 +67,6 @@ BoxAnswerer::BoxAnswerer() {
 }
 
 FormDriver::FormDriver(std::filesystem::path dataFolder, QMessageBox::StandardButton atStart) {
-  folder = std::filesystem::temp_directory_path() /
-           ("pellam-qt-" + std::to_string(std::random_device{}()));
-  std::filesystem::create_directories(folder);
   data = dataFolder.empty() ? folder / "app-data" : dataFolder;
   window_ = std::make_unique<MainWindow>(nullptr, QString::fromStdString(data.string()));
   boxes.owner = window_.get();
@@ -80,11 +76,8 @@ FormDriver::FormDriver(std::filesystem::path dataFolder, QMessageBox::StandardBu
   EXPECT_TRUE(QTest::qWaitForWindowExposed(window_.get()));
 }
 
-FormDriver::~FormDriver() {
-  window_.reset();
-  std::error_code ec;
-  std::filesystem::remove_all(folder, ec);
-}
+// The window goes before its folder.
+FormDriver::~FormDriver() { window_.reset(); }
 
 QWidget* FormDriver::widget(const char* name) {
   QWidget* w = window_->form().widgetFor(name);

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "main_window.h"
+#include "support/desk.h"
 
 // Readable failures.
 inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
@@ -77,7 +78,8 @@ class FormDriver {
   void confirmBoard(int mode);
 
   BoxAnswerer boxes;
-  std::filesystem::path folder;
+  pellam::testing::TempFolder temp;
+  const std::filesystem::path& folder = temp.path();
   std::filesystem::path data;
 
  private:

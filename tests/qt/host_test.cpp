@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QTabBar>
 #include <QTabWidget>
@@ -6,7 +7,6 @@
 #include <csignal>
 #include <fstream>
 #include <functional>
-#include <iterator>
 #include <stdexcept>
 #include <unistd.h>
 #include <gmock/gmock.h>
@@ -18,14 +18,7 @@
 namespace pellam::qt::testing {
 namespace {
 
-// A file's bytes; `text` turns its line ends into the viewer's.
-std::string readAll(const std::filesystem::path& path, bool text) {
-  std::ifstream in(path, std::ios::binary);
-  std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-  if (text) bytes = QString::fromStdString(bytes).replace("\r\n", "\n").toStdString();
-  return bytes;
-}
-
+using pellam::testing::readAll;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -80,16 +73,6 @@ TEST(QtDialogs, FileDialogShowsTheHostsFilterAndIndex) {
   EXPECT_EQ(chosen, "");
   EXPECT_EQ(offered.size(), 3);
   EXPECT_EQ(shownFilter, "Images (*.zpd)");
-}
-
-TEST(AppAsHost, AFileOfAnotherKindIsOpenedOnlyAfterYes) {
-  FormDriver app;
-  const auto path = app.folder / "notes.zpd";
-  std::ofstream(path) << "not an image";
-  app.boxes.queue(QMessageBox::No);
-  app.window().openJob(QString::fromStdString(path.string()));
-  EXPECT_THAT(app.boxes.seen, ElementsAre("msgbox \"Select File is not Pellam Type Continue Loading?\" -> No"));
-  EXPECT_EQ(app.window().windowTitle(), "New Job - Pellam Setup");
 }
 
 TEST(AppAsHost, SavedJobOpensWithItsModeAndName) {
@@ -181,10 +164,10 @@ TEST(AppAsHost, TheReportOpensInTheAppsOwnViewer) {
   ReportWindow* report = app.window().viewer().window();
   ASSERT_NE(report, nullptr);
   EXPECT_TRUE(report->isVisible());
-  EXPECT_EQ(report->text().toStdString(), readAll(app.folder / "HallUserData.txt", true));
+  EXPECT_EQ(report->text(), QString::fromStdString(readAll(app.folder / "HallUserData.txt")).replace("\r\n", "\n"));
   const auto pdf = app.folder / "Hall.pdf";
   ASSERT_TRUE(report->savePdf(QString::fromStdString(pdf.string())));
-  EXPECT_EQ(readAll(pdf, false).substr(0, 5), "%PDF-");
+  EXPECT_EQ(readAll(pdf).substr(0, 5), "%PDF-");
   EXPECT_THAT(app.boxes.seen, IsEmpty());
 }
 
@@ -202,7 +185,7 @@ TEST(AppAsHost, ControlsWithoutACaptionSayWhatTheyAre) {
 class KeepingWork : public ::testing::Test {
  protected:
   QString path(const char* name) { return QString::fromStdString((app.folder / name).string()); }
-  std::string bytes(const char* name) { return readAll(app.folder / name, false); }
+  std::string bytes(const char* name) { return readAll(app.folder / name); }
   FormDriver app;
 };
 
@@ -211,6 +194,7 @@ TEST_F(KeepingWork, EveryPathThatReplacesTheJobAsksFirst) {
   ASSERT_TRUE(app.window().saveTo(path("Hall.txt")));
   app.type("TextBox102", QString::fromStdString(app.folder.string()));
   app.click("CommandButton101");
+  EXPECT_THAT(app.lines("ListBox11"), ElementsAre("Hall.zpd"));
   app.clickLine("ListBox11", 0);
   const std::pair<const char*, std::function<void()>> paths[] = {
       {"board page's Open Job", [&] { app.click("CommandButton102"); }},
@@ -232,6 +216,8 @@ TEST_F(KeepingWork, EveryPathThatReplacesTheJobAsksFirst) {
     EXPECT_FALSE(app.window().session().modified());
     if (std::string(name) != "menu's New") {
       EXPECT_TRUE(app.window().windowTitle().startsWith("Hall (")) << app.window().windowTitle().toStdString();
+      EXPECT_EQ(app.as<QComboBox>("ComboBox48")->currentIndex(), 2) << "the saved job is back";
+      EXPECT_TRUE(app.tabShown(5));
       app.showPage("Page1");
     } else {
       EXPECT_EQ(app.window().windowTitle(), "New Job - Pellam Setup");
@@ -264,10 +250,13 @@ TEST_F(KeepingWork, SaveAsShowsJobsAndAsksBeforeReplacingAny) {
   EXPECT_TRUE(std::filesystem::exists(app.folder / "Hall.txt")) << "the mode-1 job's own text file";
 }
 
-// A file that is not an image this program saved never becomes the file Save writes over.
+// A file of another kind is opened only after Yes, and never becomes the file Save writes over.
 TEST_F(KeepingWork, AJobNotOfOurSavingIsSavedAs) {
   std::ofstream(app.folder / "Lobby.txt") << "P,1,I,1,text of another program\r\n";
   std::ofstream(app.folder / "notes.zpd") << "not an image";
+  app.boxes.queue(QMessageBox::No);
+  app.window().openJob(path("notes.zpd"));
+  EXPECT_THAT(app.boxes.seen, ElementsAre("msgbox \"Select File is not Pellam Type Continue Loading?\" -> No"));
   for (const char* name : {"Lobby.txt", "notes.zpd"}) {
     SCOPED_TRACE(name);
     const std::string before = bytes(name);

@@ -438,6 +438,14 @@ TEST_F(SaveOpen, SecondBankInputsOfAnImageAreKeptAndActionTwoIsNotWritten) {
 
 TEST_F(SaveOpen, ALargeTimerAndTheScanBytesComeBackWhole) {
   buildJob(author, 3);
+  // Timers in twentieths of a second, and the refresh list's item: seconds up to 180, then whole
+  // minutes up to 20; no item for any other.
+  for (const auto& [timer, item] : {std::pair{3600, 180}, {3620, -1}, {4800, 184}, {24000, 200}, {25200, -1}}) {
+    author.job().board.RefreshRate = timer;
+    save(author, folder.file("t.txt"));
+    open(reader, folder.file("t.zpd"));
+    EXPECT_EQ(reader.form().ComboBox55.listIndex(), item) << timer;
+  }
   author.job().board.RefreshRate = 65535;
   save(author, folder.file("a.txt"));
   reader.job().board.FurtherOption = 44;

@@ -56,24 +56,26 @@ TEST(UploadFiles, PhrasesAreTestedEachOnItsOwnInTheirOrderAndOnlyAConfirmedTrans
 TEST(ControllerAddressTest, AddressesAndNamesWithPortsPassAndNothingElse) {
   struct Case {
     const char* text;
-    const char* host;
+    const char* urlHost;  // an IPv6 address in brackets
     int port;
   };
   const Case accepted[] = {{"10.0.0.7", "10.0.0.7", 21},     {"10.0.0.7:65535", "10.0.0.7", 65535},
                            {"rqc.lobby.example", "rqc.lobby.example", 21}, {"RQC-1:21", "RQC-1", 21},
-                           {"::1", "::1", 21},               {"[fe80::1:2]:990", "fe80::1:2", 990},
-                           {"[::ffff:10.1.2.3]", "::ffff:10.1.2.3", 21}, {"localhost", "localhost", 21}};
+                           {"::1", "[::1]", 21},             {"[fe80::1:2]:990", "[fe80::1:2]", 990},
+                           {"[::ffff:10.1.2.3]", "[::ffff:10.1.2.3]", 21}, {"localhost", "localhost", 21},
+                           {"2001:db8:0:0:0:0:0:1", "[2001:db8:0:0:0:0:0:1]", 21}};
   for (const Case& c : accepted) {
     SCOPED_TRACE(c.text);
     const auto a = parseControllerAddress(c.text);
     ASSERT_TRUE(a.has_value());
-    EXPECT_EQ(a->host, c.host);
+    EXPECT_EQ(a->urlHost(), c.urlHost);
     EXPECT_EQ(a->port, c.port);
   }
   const char* refused[] = {"",           " 10.0.0.7",        "10.0.0.7 & del *.*", "10.0.0.256", "1.2.3",
                            "10.0.0.7:0", "10.0.0.7:65536",   "host:port",          "a;b",        "$(reboot)",
                            "-host",      "[::1",             "[10.0.0.7]:21",      "1::2::3",    "ftp://10.0.0.7",
-                           "a..b",       "10.0.0.7\r\nquit", "\"x\"",     ":"};
+                           "a..b",       "10.0.0.7\r\nquit", "\"x\"",     ":",
+                           "1:2:3:4:5:6:7:8:9", "1:2:3:4:5:6:7"};
   for (const char* text : refused) EXPECT_FALSE(parseControllerAddress(text).has_value()) << text;
 }
 

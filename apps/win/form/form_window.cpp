@@ -117,6 +117,7 @@ FormWindow::~FormWindow() {
   // The controls before the pages and frames that hold them.
   while (!views_.empty()) views_.pop_back();
   SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
+  if (paneTheme_) CloseThemeData(paneTheme_);
   DestroyWindow(window_);
   if (font_) DeleteObject(font_);
 }
@@ -259,7 +260,7 @@ void FormWindow::layout() {
   if (old) DeleteObject(old);
 }
 
-void FormWindow::paintPaneEdge(HDC dc) const {
+void FormWindow::paintPaneEdge(HDC dc) {
   // Each edge is the edge of a pane twice as deep as its margin, cut to the margin: a thin strip
   // to draw, in the theme's look or the classic one.
   const RECT& page = pageArea_;
@@ -273,7 +274,10 @@ void FormWindow::paintPaneEdge(HDC dc) const {
       {{width - 2 * right, page.top - 2 * below, width, height}, {width - right, page.top, width, height}},
       {{0, page.bottom - below, width, height}, {0, page.bottom, width, height}},
   };
-  HTHEME theme = OpenThemeData(multiPage_->window(), L"TAB");
+  // Opened on the form's own window: a theme opened on a control becomes the one Windows
+  // hands that control back, and closing it would leave the control a stale one.
+  if (!paneTheme_) paneTheme_ = OpenThemeData(window_, L"TAB");
+  const HTHEME theme = paneTheme_;
   for (Strip& strip : strips) {
     OffsetRect(&strip.pane, -scrolled_.x, -scrolled_.y);
     OffsetRect(&strip.cut, -scrolled_.x, -scrolled_.y);
@@ -286,7 +290,6 @@ void FormWindow::paintPaneEdge(HDC dc) const {
       RestoreDC(dc, saved);
     }
   }
-  if (theme) CloseThemeData(theme);
 }
 
 void FormWindow::updateScrollBars() {
@@ -505,6 +508,9 @@ LRESULT FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_HSCROLL:
     case WM_VSCROLL: scroll(message == WM_HSCROLL ? SB_HORZ : SB_VERT, LOWORD(wParam)); return 0;
     case WM_MOUSEWHEEL: scrollTo(SB_VERT, scrolled_.y - GET_WHEEL_DELTA_WPARAM(wParam) * scale_(60) / WHEEL_DELTA); return 0;
+    case WM_THEMECHANGED:
+      if (paneTheme_) CloseThemeData(std::exchange(paneTheme_, nullptr));
+      break;
     case WM_DPICHANGED: {
       layout();
       const auto* suggested = reinterpret_cast<const RECT*>(lParam);

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include <windows.h>
+#include <uxtheme.h>
 
 #include "control_view.h"
 #include "ui/redraw_queue.h"
@@ -69,7 +70,7 @@ class FormWindow {
   void showPage(int index);
   void layout();
   // The tabs' pane beside and below the pages.
-  void paintPaneEdge(HDC dc) const;
+  void paintPaneEdge(HDC dc);
   // Small screens scroll rather than cut a control off.
   void updateScrollBars();
   void scrollTo(int bar, int position);
@@ -92,6 +93,7 @@ class FormWindow {
   ControlView* multiPage_ = nullptr;
   std::vector<ControlView*> pages_;  // by page index; null until made
   RECT pageArea_{};                  // the tabs' display area, where every page lies
+  HTHEME paneTheme_ = nullptr;       // the tabs' theme, for the pane's edge the form draws
   HWND lastFocus_ = nullptr;
   ui::UserForm1::Subscription subscription_;
 };

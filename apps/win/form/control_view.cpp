@@ -29,7 +29,7 @@ LRESULT CALLBACK panelProcedure(HWND window, UINT message, WPARAM wParam, LPARAM
   if (message == WM_PAINT) {
     PAINTSTRUCT paint;
     HDC dc = BeginPaint(window, &paint);
-    if (const PanelView* panel = PanelView::of(window)) panel->paint(dc);
+    if (const PanelView* panel = PanelView::of(window)) panel->paintDrawn(dc);
     EndPaint(window, &paint);
     return 0;
   }
@@ -130,7 +130,7 @@ void PanelView::create(DWORD style, HWND parent, int id, const ui::Control* stat
 
 PanelView* PanelView::of(HWND window) { return dynamic_cast<PanelView*>(viewOf(window)); }
 
-void PanelView::paint(HDC dc) const {
+void PanelView::paintDrawn(HDC dc) const {
   for (const ControlView* label : drawn_) label->paint(dc);
 }
 

@@ -76,7 +76,7 @@ class PanelView : public ControlView {
  public:
   void holdDrawn(const ControlView* label) { drawn_.push_back(label); }
   void dropDrawn(const ControlView* label) { std::erase(drawn_, label); }
-  virtual void paint(HDC dc) const;
+  void paintDrawn(HDC dc) const;
   // The panel of a window made by PanelView::create(), or nullptr.
   static PanelView* of(HWND window);
   HFONT font = nullptr;  // handed on to the controls made in the panel

@@ -6,7 +6,8 @@
 # save land in STAGE/results. Nothing here judges: the caller compares.
 set -uo pipefail
 width=$1 stage=$2
-export WINEPREFIX=$stage/prefix WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
+# A crash ends its step: the debugger Wine would start keeps the step's output open for ever.
+export WINEPREFIX=$stage/prefix WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml=;winedbg.exe=d"
 # Wine names files in the Unix locale's charset: without UTF-8, non-Latin names cannot be made.
 export LANG=C.UTF-8
 unset DISPLAY

@@ -244,6 +244,20 @@ void selectItem(HWND control, int index) {
   SendMessageW(GetParent(control), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(control), code), reinterpret_cast<LPARAM>(control));
 }
 
+// A long text box shows its scroll bar only while a person's text is longer than the box.
+void scrollBarFollowsText(HWND form) {
+  HWND box = reach(form, "TextBox5");
+  for (const int lines : {30, 1}) {
+    std::wstring text;
+    for (int line = 0; line < lines; ++line) text += L"typed\r\n";
+    SendMessageW(box, EM_SETSEL, 0, -1);
+    SendMessageW(box, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
+    settle(form, true);
+    if (((GetWindowLongW(box, GWL_STYLE) & WS_VSCROLL) != 0) != (lines > 1))
+      fail("the scroll bar of TextBox5 does not follow " + std::to_string(lines) + " lines");
+  }
+}
+
 int drive(const std::wstring& script, const std::wstring& folder) {
   std::ifstream in(script.c_str());
   if (!in) fail("cannot read the script");
@@ -290,6 +304,7 @@ int drive(const std::wstring& script, const std::wstring& folder) {
     }
     // answer, choose and clock lines are the answers file's; show and bytes print nothing here.
   }
+  if (form) scrollBarFollowsText(form);
   say("DONE");
   return 0;
 }

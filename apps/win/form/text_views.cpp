@@ -14,9 +14,11 @@ class TextView final : public ControlView {
     spec_ = &control.spec();
     const DWORD lines = multiLine(control) ? ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL | WS_VSCROLL : ES_AUTOHSCROLL;
     create(L"EDIT", lines | WS_TABSTOP, WS_EX_CLIENTEDGE, parent, id, &control, wide(control.text()));
+    fitScrollBar();
   }
   void command(WORD code) override {
     if (code != EN_CHANGE || redrawing_) return;
+    fitScrollBar();
     const int length = GetWindowTextLengthW(window_);
     std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
     GetWindowTextW(window_, text.data(), length + 1);
@@ -26,11 +28,29 @@ class TextView final : public ControlView {
   void redraw() override {
     redrawing_ = true;
     setText(window_, wide(control_.text()));
+    fitScrollBar();
     showState(control_);
     redrawing_ = false;
   }
+  void place(const Scale& scale) override {
+    ControlView::place(scale);
+    fitScrollBar();
+  }
 
  private:
+  // A long text's scroll bar shows only while the text is longer than its box, as in the
+  // desktop app: the edit control keeps a disabled one in sight, which under Wine costs more
+  // round trips to draw than the box does. Made with the bar, the control keeps its range.
+  void fitScrollBar() {
+    if (!multiLine(control_)) return;
+    SCROLLINFO range{};
+    range.cbSize = sizeof range;
+    range.fMask = SIF_RANGE | SIF_PAGE;
+    const bool needed =
+        GetScrollInfo(window_, SB_VERT, &range) && range.nMax - range.nMin + 1 > static_cast<int>(range.nPage);
+    if (needed != ((GetWindowLongW(window_, GWL_STYLE) & WS_VSCROLL) != 0)) ShowScrollBar(window_, SB_VERT, needed);
+  }
+
   ui::TextBox& control_;
   PersonAction act_;
 };

@@ -68,7 +68,8 @@ std::unique_ptr<ControlView> makeButtonView(ui::CaptionedControl& control, HWND 
 // The tabs show the pages that are visible; choosing one shows its page through `showPage`.
 std::unique_ptr<ControlView> makeMultiPageView(ui::MultiPage& control, HWND parent, int id, PersonAction act,
                                                std::function<void(int page)> showPage);
-std::unique_ptr<ControlView> makePageView(ui::Page& control, HWND parent, int id);
+// A page lies on `area`, which its owner keeps up to date.
+std::unique_ptr<ControlView> makePageView(ui::Page& control, HWND parent, int id, const RECT& area);
 
 // A page or a frame: a plain window that passes its children's notifications on to their views
 // and draws the labels that lie on it, which have no windows of their own.

@@ -52,7 +52,8 @@ int readingPlaceOf(const ui::Control& control) {
   return place == places.end() ? 1 << 30 : place->second;
 }
 
-std::unique_ptr<ControlView> makeView(ui::Control& c, HWND parent, int id, const PersonAction& act) {
+std::unique_ptr<ControlView> makeView(ui::Control& c, HWND parent, int id, const PersonAction& act,
+                                      const RECT& pageArea) {
   switch (c.kind()) {
     case ui::Kind::Frame: return makeFrameView(static_cast<ui::CaptionedControl&>(c), parent, id);
     case ui::Kind::Label: return makeLabelView(static_cast<ui::CaptionedControl&>(c), parent);
@@ -61,7 +62,7 @@ std::unique_ptr<ControlView> makeView(ui::Control& c, HWND parent, int id, const
     case ui::Kind::ListBox: return makeListView(static_cast<ui::ListControl&>(c), parent, id, act);
     case ui::Kind::OptionButton:
     case ui::Kind::CommandButton: return makeButtonView(static_cast<ui::CaptionedControl&>(c), parent, id, act);
-    case ui::Kind::Page: return makePageView(static_cast<ui::Page&>(c), parent, id);
+    case ui::Kind::Page: return makePageView(static_cast<ui::Page&>(c), parent, id, pageArea);
     case ui::Kind::MultiPage: break;
   }
   return nullptr;
@@ -75,9 +76,10 @@ BOOL CALLBACK setFont(HWND child, LPARAM font) {
 }  // namespace
 
 FormWindow::FormWindow(ui::UserForm1& form, HMENU menu) : form_(form) {
+  // Placed by layout(), centred on the screen once its size is known.
   window_ = CreateWindowExW(WS_EX_CONTROLPARENT, formClass(), L"Pellam Setup",
-                            WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN, CW_USEDEFAULT,
-                            CW_USEDEFAULT, 640, 480, nullptr, menu, moduleInstance(), this);
+                            WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN, 0, 0, 640,
+                            480, nullptr, menu, moduleInstance(), this);
   if (!window_) throw std::runtime_error("Cannot make the form's window");
   // Controls are made at the window's scale and in its font, so that layout() moves none of
   // them again.
@@ -105,7 +107,8 @@ FormWindow::FormWindow(ui::UserForm1& form, HMENU menu) : form_(form) {
     });
   }
   pages_.resize(form_.MultiPage1.pages().size());
-  // The tabs' height, and so where the pages start, is known once they hold their tabs.
+  // The tabs' height, and so where the pages start, is known once they hold their tabs: the
+  // first page is made after that, in its place.
   multiPage_->redraw();
   layout();
   subscription_ = form_.observe([this](const ui::Control* control) { changed(control); });
@@ -124,8 +127,9 @@ FormWindow::~FormWindow() {
 
 ControlView& FormWindow::add(ui::Control& control, HWND parent) {
   const auto row = std::find(form_.controls().begin(), form_.controls().end(), &control) - form_.controls().begin();
-  auto view = makeView(control, parent, kFirstId + static_cast<int>(row),
-                       [this](const std::function<void()>& action) { personAction(action); });
+  auto view = makeView(
+      control, parent, kFirstId + static_cast<int>(row),
+      [this](const std::function<void()>& action) { personAction(action); }, pageArea_);
   byControl_[&control] = view.get();
   views_.push_back(std::move(view));
   return *views_.back();
@@ -134,8 +138,6 @@ ControlView& FormWindow::add(ui::Control& control, HWND parent) {
 ControlView& FormWindow::pageView(std::size_t index) {
   if (pages_[index]) return *pages_[index];
   pages_[index] = &add(*form_.MultiPage1.pages()[index], window_);
-  const RECT& at = pageArea_;
-  MoveWindow(pages_[index]->window(), at.left, at.top, at.right - at.left, at.bottom - at.top, FALSE);
   // The pages lie over the tabs: the tabs come last in the window's order, so that they are
   // drawn below the pages and Tab reaches them after the shown page's last control.
   SetWindowPos(multiPage_->window(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
@@ -194,7 +196,7 @@ void FormWindow::orderTabs(const ui::Control& page) {
 }
 
 void FormWindow::showPage(int index) {
-  if (index < 0 || static_cast<std::size_t>(index) >= pages_.size()) return;
+  if (index < 0 || static_cast<std::size_t>(index) >= pages_.size() || IsRectEmpty(&pageArea_)) return;
   shownPage_ = form_.MultiPage1.pages()[static_cast<std::size_t>(index)];
   buildShown(shownPage_);
   pageView(static_cast<std::size_t>(index));
@@ -211,12 +213,11 @@ void FormWindow::showPage(int index) {
 void FormWindow::layout() {
   HFONT old = nullptr;
   if (const UINT dpi = dpiOf(window_); dpi != scale_.dpi) {
-    // Moved to a monitor of another scale: every control in the new font and place.
+    // Moved to a monitor of another scale: every control in the new font, and below in its place.
     scale_.dpi = dpi;
     old = font_;
     font_ = messageFont(scale_.dpi);
     EnumChildWindows(window_, setFont, reinterpret_cast<LPARAM>(font_));
-    for (const auto& view : views_) view->place(scale_);
   }
   // The tabs are as large as the table's page area needs, the pages fill their display area.
   const ui::ControlSpec& spec = form_.MultiPage1.spec();
@@ -232,9 +233,11 @@ void FormWindow::layout() {
   const LONG margin = tabs.bottom - pageArea_.bottom;
   MoveWindow(multiPage_->window(), 0, 0, tabs.right, pageArea_.top + margin, FALSE);
   SetWindowRgn(multiPage_->window(), CreateRectRgn(0, 0, tabs.right, pageArea_.top), FALSE);
-  const RECT& at = pageArea_;
-  for (ControlView* page : pages_) {
-    if (page) MoveWindow(page->window(), at.left, at.top, at.right - at.left, at.bottom - at.top, FALSE);
+  if (old) {
+    for (const auto& view : views_) view->place(scale_);
+  } else {
+    for (ControlView* page : pages_)
+      if (page) page->place(scale_);
   }
   // As large as the form, but never beyond the screen's work area: the rest scrolls.
   content_ = {tabs.right, tabs.bottom};
@@ -253,8 +256,13 @@ void FormWindow::layout() {
   LONG width = frame.right - frame.left, height = frame.bottom - frame.top;
   if (height > workHeight) width += bar;
   if (width > workWidth) height += bar;
-  SetWindowPos(window_, nullptr, 0, 0, std::min(width, workWidth), std::min(height, workHeight),
-               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  width = std::min(width, workWidth);
+  height = std::min(height, workHeight);
+  // Centred when it first shows; later it stays where the person moved it.
+  const bool placed = IsWindowVisible(window_) != FALSE;
+  SetWindowPos(window_, nullptr, monitor.rcWork.left + (workWidth - width) / 2,
+               monitor.rcWork.top + (workHeight - height) / 2, width, height,
+               SWP_NOZORDER | SWP_NOACTIVATE | (placed ? SWP_NOMOVE : 0));
   updateScrollBars();
   InvalidateRect(window_, nullptr, TRUE);
   if (old) DeleteObject(old);

@@ -65,17 +65,19 @@ class MultiPageView final : public ControlView {
   std::vector<std::pair<int, std::string>> tabs_;  // page index and caption of each tab
 };
 
-// A page is a panel over the tabs' display area; the form window places it and shows the
-// chosen one. It leaves its controls' places undrawn: they draw them whole.
+// A page is a panel over the tabs' display area, which the form window keeps; the form shows
+// the chosen one. It leaves its controls' places undrawn: they draw them whole.
 class PageView final : public PanelView {
  public:
-  PageView(ui::Page& control, HWND parent, int id) {
+  PageView(ui::Page& control, HWND parent, int id, const RECT& area) : area_(area) {
     spec_ = &control.spec();
     create(WS_CLIPSIBLINGS | WS_CLIPCHILDREN, parent, id, nullptr);
   }
-  RECT placeAt(const Scale&) const override { return {}; }
-  void place(const Scale&) override {}
+  RECT placeAt(const Scale&) const override { return area_; }
   void redraw() override {}
+
+ private:
+  const RECT& area_;
 };
 
 }  // namespace
@@ -85,8 +87,8 @@ std::unique_ptr<ControlView> makeMultiPageView(ui::MultiPage& control, HWND pare
   return std::make_unique<MultiPageView>(control, parent, id, std::move(act), std::move(showPage));
 }
 
-std::unique_ptr<ControlView> makePageView(ui::Page& control, HWND parent, int id) {
-  return std::make_unique<PageView>(control, parent, id);
+std::unique_ptr<ControlView> makePageView(ui::Page& control, HWND parent, int id, const RECT& area) {
+  return std::make_unique<PageView>(control, parent, id, area);
 }
 
 }  // namespace pellam::win

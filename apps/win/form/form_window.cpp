@@ -196,6 +196,7 @@ void FormWindow::orderTabs(const ui::Control& page) {
 }
 
 void FormWindow::showPage(int index) {
+  // No page is made before the layout knows where pages lie.
   if (index < 0 || static_cast<std::size_t>(index) >= pages_.size() || IsRectEmpty(&pageArea_)) return;
   shownPage_ = form_.MultiPage1.pages()[static_cast<std::size_t>(index)];
   buildShown(shownPage_);

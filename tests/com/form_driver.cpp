@@ -258,6 +258,25 @@ void scrollBarFollowsText(HWND form) {
   }
 }
 
+// On a screen smaller than the form, the form scrolls as far as its last pixel and no further.
+void scrollsToItsEnd(HWND form) {
+  SetWindowPos(form, nullptr, 0, 0, 500, 400, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  HWND page = controlWindow(form, "Page1");
+  for (const int bar : {SB_HORZ, SB_VERT}) {
+    RECT before, after;
+    GetWindowRect(page, &before);
+    SendMessageW(form, bar == SB_HORZ ? WM_HSCROLL : WM_VSCROLL, SB_BOTTOM, 0);
+    GetWindowRect(page, &after);
+    SCROLLINFO range{};
+    range.cbSize = sizeof range;
+    range.fMask = SIF_RANGE | SIF_PAGE;
+    GetScrollInfo(form, bar, &range);
+    const LONG moved = bar == SB_HORZ ? before.left - after.left : before.top - after.top;
+    if (moved <= 0 || moved != range.nMax - static_cast<LONG>(range.nPage) + 1)
+      fail("the form scrolls " + std::to_string(moved) + " pixels to its end");
+  }
+}
+
 int drive(const std::wstring& script, const std::wstring& folder) {
   std::ifstream in(script.c_str());
   if (!in) fail("cannot read the script");
@@ -304,7 +323,10 @@ int drive(const std::wstring& script, const std::wstring& folder) {
     }
     // answer, choose and clock lines are the answers file's; show and bytes print nothing here.
   }
-  if (form) scrollBarFollowsText(form);
+  if (form) {
+    scrollBarFollowsText(form);
+    scrollsToItsEnd(form);
+  }
   say("DONE");
   return 0;
 }

@@ -31,7 +31,7 @@ TEST(NumberInputTest, RefusesWhatTheBoardCouldNotKeep) {
       {0, 7, "Input Not Selected"},       {-1, 7, "Input Not Selected"},
       {3, 0, "Room Not Selected"},        {0, 0, "Input Not Selected"},
       {17, 7, "Input Out Of Range"},      {3, 256, "Room Out Of Range"},
-      {3, 255, "Room Already Used By Input 16"},
+      {3, 255, "Room Already Used By Input 16"}, {5, 7, "Input Already Numbered"},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.message);

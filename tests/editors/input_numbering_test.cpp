@@ -45,15 +45,14 @@ TEST(NumberInputTest, RefusesWhatTheBoardCouldNotKeep) {
 }
 
 // Numbers left in an image whose option bit 0 is clear are not the job's; a new job has none.
-TEST(InputNumberingPageTest, ANewJobAndAnImageWithoutNumberingListNothing) {
-  Desk desk;
-  ui::UserForm1& f = desk.form();
+using InputNumberingPageTest = testing::DeskTest;
+
+TEST_F(InputNumberingPageTest, ANewJobAndAnImageWithoutNumberingListNothing) {
   auto number = [&](int input, int room) {
     f.ComboBox110.select(input);
     f.ComboBox111.select(room);
     f.CommandButton110.click();
   };
-  desk.startUp();
   number(4, 60);
   ASSERT_EQ(f.ListBox101.items(), Lines{"Input 4: Room 60"});
   desk.startUp();

@@ -6,9 +6,9 @@
 namespace pellam::component {
 namespace {
 
-// The preset entries of each bank's last input are listed under that bank's own number.
 using JobListing = testing::DeskTest;
 
+// The preset entries of each bank's last input are listed under that bank's own number.
 TEST_F(JobListing, PresetsOfEachBanksLastInput) {
   desk.chooseBoard(4);
   f.CommandButton4.click();

@@ -44,9 +44,9 @@ TEST(NumberInputTest, RefusesWhatTheBoardCouldNotKeep) {
   }
 }
 
-// Numbers left in an image whose option bit 0 is clear are not the job's; a new job has none.
 using InputNumberingPageTest = testing::DeskTest;
 
+// Numbers left in an image whose option bit 0 is clear are not the job's; a new job has none.
 TEST_F(InputNumberingPageTest, ANewJobAndAnImageWithoutNumberingListNothing) {
   auto number = [&](int input, int room) {
     f.ComboBox110.select(input);

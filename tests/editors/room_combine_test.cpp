@@ -12,10 +12,10 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-// The "all" view must follow the table whoever changed it: start-up spares channels 2047 and
-// 2048 while it empties the list, and an opened job rewrites records in place.
 using RoomCombinePageTest = testing::DeskTest;
 
+// The "all" view must follow the table whoever changed it: start-up spares channels 2047 and
+// 2048 while it empties the list, and an opened job rewrites records in place.
 TEST_F(RoomCombinePageTest, TheAllViewFollowsTablesChangedElsewhere) {
   auto add = [&](int room, int group, int channel) {
     f.ComboBox36.select(room);

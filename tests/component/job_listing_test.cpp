@@ -6,12 +6,12 @@
 namespace pellam::component {
 namespace {
 
+using JobListing = testing::DeskTest;
+
 // The preset entries of each bank's last input are listed under that bank's own number.
-TEST(JobListing, PresetsOfEachBanksLastInput) {
-  testing::Desk desk;
-  desk.startUp();
+TEST_F(JobListing, PresetsOfEachBanksLastInput) {
   desk.chooseBoard(4);
-  desk.form().CommandButton4.click();
+  f.CommandButton4.click();
   desk.job().presetEmulation.at(1, 16) = {2, 1, 1, 0, 1};
   desk.job().presetEmulation.at(1, 32) = {3, 1, 1, 0, 1};
   const std::string text = listJob(desk.session());

@@ -108,7 +108,7 @@ class UploadPageTest : public ::testing::Test {
 };
 
 TEST_F(UploadPageTest, ACompletedUploadArrivesWholeAndIsLoggedOnce) {
-  ControllerSim controller({{26}});
+  ControllerSim controller({"--stations=26"});
   upload(26, address(controller));
   const std::string first = log();
   upload(26, address(controller));
@@ -127,7 +127,7 @@ TEST_F(UploadPageTest, ACompletedUploadArrivesWholeAndIsLoggedOnce) {
 }
 
 TEST_F(UploadPageTest, ASilentControllerTimesOutAndTheFormStaysUsable) {
-  ControllerSim controller({{}, true});
+  ControllerSim controller({"--silent"});
   page().settingsPath = settings.write("controller.ini", "timeout = 1\n");
   int ticks = 0;
   page().keepResponsive = [&] { ++ticks; };
@@ -143,7 +143,7 @@ TEST_F(UploadPageTest, ASilentControllerTimesOutAndTheFormStaysUsable) {
 // A face with an event loop gets its form back at once: the transfer runs on a thread of its
 // own, a second upload meanwhile does nothing, and the outcome comes through the face's queue.
 TEST_F(UploadPageTest, AFaceWithAnEventLoopIsNeverHeldUp) {
-  ControllerSim controller({{9}});
+  ControllerSim controller({"--stations=9"});
   std::mutex posted;
   std::vector<std::function<void()>> queue;
   page().postToFace = [&](std::function<void()> f) {
@@ -175,7 +175,7 @@ TEST_F(UploadPageTest, AFaceWithAnEventLoopIsNeverHeldUp) {
 TEST_F(UploadPageTest, EveryOutcomeHasItsMessageAndOneLogEntry) {
   struct Case {
     const char* fault;
-    ControllerSim::Options options;
+    std::vector<std::string> flags;
     std::string message;
     std::string logged;
     std::string address;  // instead of the controller's
@@ -183,26 +183,26 @@ TEST_F(UploadPageTest, EveryOutcomeHasItsMessageAndOneLogEntry) {
   };
   const std::string closed = "127.0.0.1:" + std::to_string(testing::closedPort());
   const Case cases[] = {
-      {"no station with the net id", {.stations = {6}}, "Station Not Found", "550 file open fails", ""},
+      {"no station with the net id", {"--stations=6"}, "Station Not Found", "550 file open fails", ""},
       {"a host that does not exist", {}, "RQC Not Found Check IP Address", "Unknown host nosuchcontroller.invalid.",
        "nosuchcontroller.invalid"},
       {"a port nobody listens on", {}, "RQC Not Found Check IP Address", "Not connected.", closed},
-      {"drops the connection after 1000 bytes", {.stations = {5}, .dropAfter = 1000},
+      {"drops the connection after 1000 bytes", {"--stations=5", "--drop-after=1000"},
        "Down Load Not Completed: the connection was lost before the controller confirmed the file", "", ""},
-      {"answers 451 after the transfer", {.stations = {5}, .failAfterTransfer = true},
+      {"answers 451 after the transfer", {"--stations=5", "--fail-after-transfer"},
        "Down Load Not Completed: the controller answered 451 Requested action aborted: local error in processing.",
        "451", ""},
       {"greets with the phrase, then refuses the login",
-       {.stations = {5}, .greeting = "RQC ready to take file", .refuseLogin = true},
+       {"--stations=5", "--greeting=RQC ready to take file", "--refuse-login"},
        "Down Load Not Completed: the controller refused the login", "530", ""},
-      {"refuses the login", {.stations = {5}, .refuseLogin = true}, "RQC Login Refused", "530", ""},
-      {"never confirms, and the person cancels", {.stations = {5}, .stall = true}, "Down Load Cancelled",
+      {"refuses the login", {"--stations=5", "--refuse-login"}, "RQC Login Refused", "530", ""},
+      {"never confirms, and the person cancels", {"--stations=5", "--stall"}, "Down Load Cancelled",
        "150 ready to take file", "", true},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.fault);
     fs::remove(job.file("RQCLog.txt"));
-    ControllerSim controller(c.options);
+    ControllerSim controller(c.flags);
     // A person at another window: any thread may cancel.
     std::jthread person;
     if (c.cancelOnceTaken) {
@@ -228,7 +228,7 @@ TEST_F(UploadPageTest, EveryOutcomeHasItsMessageAndOneLogEntry) {
 }
 
 TEST_F(UploadPageTest, OnlyAJobImageGoesToAStationAndNothingIsWrittenForAnotherFile) {
-  ControllerSim controller({{5}});
+  ControllerSim controller({"--stations=5"});
   std::string otherType = image;
   otherType[6101] = 7;
   struct Case {
@@ -256,7 +256,7 @@ TEST_F(UploadPageTest, OnlyAJobImageGoesToAStationAndNothingIsWrittenForAnotherF
 }
 
 TEST_F(UploadPageTest, LocalFailuresNameTheFileThatCouldNotBeWritten) {
-  ControllerSim controller({{5}});
+  ControllerSim controller({"--stations=5"});
   fs::create_directory(job.file("RQCLog.txt"));
   upload(5, address(controller));
   EXPECT_EQ(desk.shown(), (Lines{okBox("Down Load Completed !!"), okBox("Cannot Write File: " + job.file("RQCLog.txt"))}));
@@ -277,7 +277,7 @@ TEST_F(UploadPageTest, LocalFailuresNameTheFileThatCouldNotBeWritten) {
 }
 
 TEST_F(UploadPageTest, TwoUploadsAtOnceFromOneFolderKeepToThemselves) {
-  ControllerSim controller({{5}});
+  ControllerSim controller({"--stations=5"});
   Desk other;
   prepare(other);
   {

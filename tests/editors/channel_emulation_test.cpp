@@ -12,13 +12,12 @@
 namespace pellam::editors::channel_emulation {
 namespace {
 
-using testing::Desk;
 using Lines = std::vector<std::string>;
 
-class ChannelEmulationPageTest : public ::testing::Test {
+class ChannelEmulationPageTest : public testing::DeskTest {
  protected:
   void SetUp() override {
-    desk.startUp();
+    DeskTest::SetUp();
     f.ComboBox26.select(3);
     desk.shown();
   }
@@ -33,8 +32,6 @@ class ChannelEmulationPageTest : public ::testing::Test {
 
   const job::ChannelEmulationRecord& record(int index) { return table.records[static_cast<std::size_t>(index)]; }
 
-  Desk desk;
-  ui::UserForm1& f = desk.form();
   job::ChannelEmulationTable& table = desk.job().channelEmulation;
 };
 

@@ -31,7 +31,7 @@ TEST(NumberInputTest, RefusesWhatTheBoardCouldNotKeep) {
       {0, 7, "Input Not Selected"},       {-1, 7, "Input Not Selected"},
       {3, 0, "Room Not Selected"},        {0, 0, "Input Not Selected"},
       {17, 7, "Input Out Of Range"},      {3, 256, "Room Out Of Range"},
-      {3, 255, "Room Already Used By Input 16"},
+      {3, 255, "Room Already Used By Input 16"}, {5, 7, "Input Already Numbered"},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.message);
@@ -44,16 +44,15 @@ TEST(NumberInputTest, RefusesWhatTheBoardCouldNotKeep) {
   }
 }
 
+using InputNumberingPageTest = testing::DeskTest;
+
 // Numbers left in an image whose option bit 0 is clear are not the job's; a new job has none.
-TEST(InputNumberingPageTest, ANewJobAndAnImageWithoutNumberingListNothing) {
-  Desk desk;
-  ui::UserForm1& f = desk.form();
+TEST_F(InputNumberingPageTest, ANewJobAndAnImageWithoutNumberingListNothing) {
   auto number = [&](int input, int room) {
     f.ComboBox110.select(input);
     f.ComboBox111.select(room);
     f.CommandButton110.click();
   };
-  desk.startUp();
   number(4, 60);
   ASSERT_EQ(f.ListBox101.items(), Lines{"Input 4: Room 60"});
   desk.startUp();

@@ -25,12 +25,11 @@ TEST(SetLabelTest, NumbersBeyond255AreAProgrammingError) {
   EXPECT_EQ(desk.shown(), Lines{});
 }
 
+using NamingPageTest = testing::DeskTest;
+
 // Labelling through the page is walked through in tests/scripts/room_combine_job; a room name
 // shows nowhere on the form, so it is checked here.
-TEST(NamingPageTest, StoringARoomNameNeverRefuses) {
-  Desk desk;
-  desk.startUp();
-  ui::UserForm1& f = desk.form();
+TEST_F(NamingPageTest, StoringARoomNameNeverRefuses) {
   const job::RoomGroupName& room9 = desk.job().roomGroupNames.names[9];
   f.TextBox104.setText("East Wing");
   f.ListBox13.select(9);

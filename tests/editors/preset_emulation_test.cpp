@@ -13,7 +13,6 @@
 namespace pellam::editors::preset_emulation {
 namespace {
 
-using testing::Desk;
 using Lines = std::vector<std::string>;
 
 // Station type items after the blank one.
@@ -22,10 +21,10 @@ constexpr int kT6600Lcd = 3;
 constexpr int kT6600Entry = 4;
 constexpr int kContactClosure = 5;
 
-class PresetEmulationPageTest : public ::testing::Test {
+class PresetEmulationPageTest : public testing::DeskTest {
  protected:
   void SetUp() override {
-    desk.startUp();
+    DeskTest::SetUp();
     chooseInput(3);
   }
 
@@ -44,8 +43,6 @@ class PresetEmulationPageTest : public ::testing::Test {
 
   job::PresetRecord& record(int netId, int inputSlot) { return table.at(netId - 1, inputSlot); }
 
-  Desk desk;
-  ui::UserForm1& f = desk.form();
   job::PresetEmulationTable& table = desk.job().presetEmulation;
 };
 

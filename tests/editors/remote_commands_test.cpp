@@ -12,11 +12,10 @@
 namespace pellam::editors::remote_commands {
 namespace {
 
+using RemoteCommandsPageTest = testing::DeskTest;
+
 // Thirty stations fill an input, a duplicate is refused as full too, and the image keeps 29.
-TEST(RemoteCommandsPageTest, ThirtyStationsFillAnInputAndTheImageKeepsTwentyNine) {
-  testing::Desk desk;
-  desk.startUp();
-  ui::UserForm1& f = desk.form();
+TEST_F(RemoteCommandsPageTest, ThirtyStationsFillAnInputAndTheImageKeepsTwentyNine) {
   desk.chooseBoard(1);
   f.CommandButton4.click();
   f.OptionButton13.choose();
@@ -44,10 +43,7 @@ TEST(RemoteCommandsPageTest, ThirtyStationsFillAnInputAndTheImageKeepsTwentyNine
   EXPECT_EQ(f.ListBox19.items().back(), "NetId 29 Btn 4");
 }
 
-TEST(RemoteCommandsPageTest, AnImageWithoutEntriesShowsNoneAndTheDisabledMode) {
-  testing::Desk desk;
-  desk.startUp();
-  ui::UserForm1& f = desk.form();
+TEST_F(RemoteCommandsPageTest, AnImageWithoutEntriesShowsNoneAndTheDisabledMode) {
   image::EepromImage& image = desk.session().image;
   image.put(6400, 1);
   image.put(6200, 1);

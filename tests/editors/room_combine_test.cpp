@@ -12,18 +12,17 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
+using RoomCombinePageTest = testing::DeskTest;
+
 // The "all" view must follow the table whoever changed it: start-up spares channels 2047 and
 // 2048 while it empties the list, and an opened job rewrites records in place.
-TEST(RoomCombinePageTest, TheAllViewFollowsTablesChangedElsewhere) {
-  testing::Desk desk;
-  ui::UserForm1& f = desk.form();
+TEST_F(RoomCombinePageTest, TheAllViewFollowsTablesChangedElsewhere) {
   auto add = [&](int room, int group, int channel) {
     f.ComboBox36.select(room);
     f.ComboBox37.select(group);
     f.ComboBox38.select(channel);
     f.CommandButton11.click();
   };
-  desk.startUp();
   add(5, 3, 2048);
   add(5, 3, 12);
   desk.startUp();

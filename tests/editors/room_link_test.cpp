@@ -9,7 +9,6 @@
 namespace pellam::editors::room_link {
 namespace {
 
-using testing::Desk;
 using Lines = std::vector<std::string>;
 
 job::RoomLinkRecord& recordOf(job::RoomLinkTable& t, int input) { return t.records[static_cast<std::size_t>(input - 1)]; }
@@ -34,10 +33,8 @@ TEST(StoreRoomLinkTest, InputZeroIsNeverStored) {
   EXPECT_EQ(StoreRoomLink(t, 0, 3, 4), kInputAlreadyLinked) << "no record is left to match, and none belongs to it";
 }
 
-class RoomLinkPageTest : public ::testing::Test {
+class RoomLinkPageTest : public testing::DeskTest {
  protected:
-  void SetUp() override { desk.startUp(); }
-
   void linkInGroupB(int input, int first, int second) {
     f.ComboBox7.select(input);
     f.ComboBox8.select(first);
@@ -45,8 +42,6 @@ class RoomLinkPageTest : public ::testing::Test {
     f.CommandButton2.click();
   }
 
-  Desk desk;
-  ui::UserForm1& f = desk.form();
   job::RoomLinkTable& table = desk.job().roomLink;
 };
 

@@ -13,13 +13,10 @@
 namespace pellam::editors::station_link {
 namespace {
 
-using testing::Desk;
 using Lines = std::vector<std::string>;
 
-class StationLinkPageTest : public ::testing::Test {
+class StationLinkPageTest : public testing::DeskTest {
  protected:
-  void SetUp() override { desk.startUp(); }
-
   void link(int type, int netId, int room) {
     f.ComboBox34.select(type);
     f.ComboBox35.select(netId);
@@ -27,8 +24,6 @@ class StationLinkPageTest : public ::testing::Test {
     f.CommandButton8.click();
   }
 
-  Desk desk;
-  ui::UserForm1& f = desk.form();
   job::StationLinkTable& table = desk.job().stationLink;
 };
 

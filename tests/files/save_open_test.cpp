@@ -380,27 +380,6 @@ TEST_F(SaveOpen, StationsOnNumberedRoomsSurviveAndNumberingAddsNone) {
   EXPECT_EQ(reader.job().inputNumbering.records[5].RoomNumber, 5);
 }
 
-TEST_F(SaveOpen, TheInputActionOffsetIsAFixedPoint) {
-  buildJob(author, 1);
-  author.job().masterInputs.Mode = 1;
-  author.job().masterInputs.Companion = 2;
-  author.job().board.InputAction = 7;  // a master-input action the offset stores as 3
-  save(author, folder.file("a.txt"));
-  const std::string bytes = readAll(folder.path() / "a.zpd");
-  EXPECT_EQ(bytes[6202], 3);
-  EXPECT_EQ(bytes[6204], 1);
-  open(reader, folder.file("a.zpd"));
-  EXPECT_EQ(reader.job().board.InputAction, 7);
-
-  author.job().board.InputAction = 1;  // an action the offset cannot express is stored as it is
-  save(author, folder.file("a.txt"));
-  const std::string plain = readAll(folder.path() / "a.zpd");
-  EXPECT_EQ(plain[6202], 1);
-  EXPECT_EQ(plain[6204], 0);
-  EXPECT_EQ(plain[6400], 1) << "the board bytes are all written";
-  EXPECT_TRUE(author.shown().empty());
-}
-
 TEST_F(SaveOpen, AnInputThatCannotBeStoredIsNamedAndTheOthersAreKept) {
   buildJob(author, 1);
   auto& crowded = author.job().channelEmulation.records[2];

@@ -26,7 +26,7 @@ int entries(const fs::path& log) {
 }
 
 TEST(AppUpload, TheWindowSavesFirstShowsProgressAndItsCancelOrCloseEndsTheTransfer) {
-  pellam::testing::ControllerSim controller({.stations = {5}, .stall = true});
+  pellam::testing::ControllerSim controller({"--stations=5", "--stall"});
   FormDriver app;
   const fs::path log = app.folder / "RQCLog.txt";
   app.window().session().uploadPage.settingsPath = (app.folder / "none.ini").string();

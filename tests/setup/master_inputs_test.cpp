@@ -11,15 +11,12 @@
 namespace pellam::setup {
 namespace {
 
-using testing::Desk;
 using testing::TempFolder;
 using testing::readAll;
 using Lines = std::vector<std::string>;
 
-class MasterInputsTest : public ::testing::Test {
+class MasterInputsTest : public testing::DeskTest {
  protected:
-  void SetUp() override { desk.startUp(); }
-
   // A channel-emulation master, whose action list ends with "Latch Unlatch" at 5.
   void confirmBoard(int action) {
     desk.chooseBoard(1, action);
@@ -34,8 +31,6 @@ class MasterInputsTest : public ::testing::Test {
 
   static int byteAt(const std::string& bytes, int offset) { return static_cast<unsigned char>(bytes[static_cast<std::size_t>(offset)]); }
 
-  Desk desk;
-  ui::UserForm1& f = desk.form();
   TempFolder folder;
 };
 

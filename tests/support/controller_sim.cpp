@@ -23,22 +23,15 @@ namespace {
 constexpr const char* kPython = "/usr/bin/python3";
 }  // namespace
 
-ControllerSim::ControllerSim(const Options& options) {
+ControllerSim::ControllerSim(const std::vector<std::string>& flags) {
   std::random_device seed;
   root_ = std::filesystem::temp_directory_path() / ("pellam-controller-" + std::to_string(std::mt19937_64(seed())()));
   std::filesystem::create_directories(root_);
   const std::string portFile = (root_ / "port").string();
-  std::string stations;
-  for (int n : options.stations) stations += (stations.empty() ? "" : ",") + std::to_string(n);
   std::vector<std::string> args = {kPython, PELLAM_CONTROLLER_SIM, "--port-file", portFile,
-                                   "--root", (root_ / "disk").string(), "--stations=" + stations};
+                                   "--root", (root_ / "disk").string()};
+  args.insert(args.end(), flags.begin(), flags.end());
   std::filesystem::create_directories(root_ / "disk");
-  if (options.silent) args.emplace_back("--silent");
-  if (options.dropAfter >= 0) args.push_back("--drop-after=" + std::to_string(options.dropAfter));
-  if (options.failAfterTransfer) args.emplace_back("--fail-after-transfer");
-  if (options.greeting) args.push_back(std::string("--greeting=") + options.greeting);
-  if (options.refuseLogin) args.emplace_back("--refuse-login");
-  if (options.stall) args.emplace_back("--stall");
   std::vector<char*> argv;
   for (std::string& a : args) argv.push_back(a.data());
   argv.push_back(nullptr);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <filesystem>
 #include <memory>
 #include <sstream>
@@ -51,6 +53,14 @@ class Desk {
   std::ostringstream out_;
   component::script::ScriptPlatform platform_;
   std::unique_ptr<component::Session> session_;
+};
+
+// A test with a person at a desk that has started up, and its form.
+class DeskTest : public ::testing::Test {
+ protected:
+  void SetUp() override { desk.startUp(); }
+  Desk desk;
+  ui::UserForm1& f = desk.form();
 };
 
 // A message box with only an OK button, as shown() lists it.

@@ -18,7 +18,6 @@ class TextView final : public ControlView {
   }
   void command(WORD code) override {
     if (code != EN_CHANGE || redrawing_) return;
-    fitScrollBar();
     const int length = GetWindowTextLengthW(window_);
     std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
     GetWindowTextW(window_, text.data(), length + 1);

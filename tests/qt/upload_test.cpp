@@ -52,6 +52,7 @@ TEST(AppUpload, TheWindowSavesFirstShowsProgressAndItsCancelOrCloseEndsTheTransf
   // Closing the window ends a transfer as Cancel does, and shows nothing more of it.
   app.click("CommandButton27");
   QTRY_VERIFY_WITH_TIMEOUT(progress->isVisible(), 10000);
+  EXPECT_TRUE(progress->cancelButton()->isEnabled()) << "a cancelled upload leaves the next one its Cancel";
   EXPECT_TRUE(app.window().close());
   QTRY_COMPARE_WITH_TIMEOUT(entries(log), 2, 5000);
   QTest::qWait(100);
